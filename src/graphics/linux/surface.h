@@ -1,0 +1,56 @@
+// A picture in memory: 32 bits a pixel, blue in the lowest byte, the highest byte always 255.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <optional>
+
+#include "graphics/color.h"
+#include "graphics/linux/pixelMemory.h"
+
+// A rectangle by its edges; right and bottom are exclusive.
+struct xplEdges {
+  int left = 0;
+  int top = 0;
+  int right = 0;
+  int bottom = 0;
+};
+
+// Only this folder may see the memory behind a surface: what is drawn is going to be recorded, so everything else
+// draws through the operations. Every operation clips to the surface, and gives the pixels that GDI gives.
+class Surface {
+ public:
+  // Sizes in pixels; a size of 0 or below makes an empty surface. Throws std::bad_alloc where there is no memory.
+  // The content is undefined until it is filled.
+  Surface(int width, int height);
+  // Takes over memory that a native window supplied.
+  explicit Surface(std::unique_ptr<PixelMemory> memory);
+
+  int width() const { return m_width; }
+  int height() const { return m_height; }
+
+  xplColor getPixel(int x, int y) const;  // white outside
+  void setPixel(int x, int y, xplColor color);
+  void fillRect(const xplEdges& edges, xplColor color);
+  // The ellipse inside the edges, filled with the colour, with the one-pixel black outline of GDI's default pen.
+  void fillEllipse(const xplEdges& edges, xplColor color);
+  // The last pixel is not drawn. A width below 1 counts as 1.
+  void drawLine(int x1, int y1, int x2, int y2, int penWidth, xplColor color);
+  // Copies the source's pixels from (sourceX, sourceY) on, except those of exactly the transparent colour.
+  void blit(int x, int y, const Surface& source, int sourceX, int sourceY, int width, int height,
+            std::optional<xplColor> transparentColor);
+  // Copies the whole source into the whole surface, dropping or repeating pixels.
+  void stretchFrom(const Surface& source);
+
+  // For this folder only: the pixels, row by row, stride() words to a row.
+  std::uint32_t* pixels() { return m_memory->pixels(); }
+  const std::uint32_t* pixels() const { return m_memory->pixels(); }
+  std::size_t stride() const { return m_memory->stride(); }
+  PixelMemory& memory() { return *m_memory; }
+
+ private:
+  std::unique_ptr<PixelMemory> m_memory;
+  int m_width;
+  int m_height;
+};

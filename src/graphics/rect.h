@@ -1,0 +1,21 @@
+// A rectangle by its top-left corner and size; right and bottom are exclusive edges.
+#pragma once
+
+// T is int (pixels) or float (pixels). The four operations are virtual because sprites carry them as their first
+// slots; there is no virtual destructor, so never delete through this class.
+template <class T>
+class xplRect {
+ public:
+  xplRect() = default;
+  xplRect(T aTop, T aLeft, T aWidth, T aHeight) : top(aTop), left(aLeft), width(aWidth), height(aHeight) {}
+
+  virtual T getBottom() const { return top + height; }
+  virtual T getRight() const { return left + width; }
+  virtual void setBottom(T bottom) { height = bottom - top; }  // top stays
+  virtual void setRight(T right) { width = right - left; }     // left stays
+
+  T top{};
+  T left{};
+  T width{};
+  T height{};
+};

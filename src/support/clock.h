@@ -1,0 +1,59 @@
+// The one place where the program reads the time or waits; tests and the renderer set it.
+#pragma once
+
+#include <cstdint>
+#include <ctime>
+#include <optional>
+
+// A moment: whole seconds since 1 January 1970 UTC, and the microseconds into that second, in [0, 1000000).
+struct xplInstant {
+  std::int64_t seconds = 0;
+  std::int64_t microseconds = 0;
+};
+
+// Where the clock takes its time from. Implementations may be called from any thread.
+class xplClockSource {
+ public:
+  virtual ~xplClockSource() = default;
+  virtual xplInstant now() = 0;
+  // Returns after the given time, in milliseconds, has passed on this clock.
+  virtual void sleep(unsigned milliseconds) = 0;
+};
+
+// A clock that stands still until it is set or slept on. Sleeping moves it forward and returns at once.
+class xplManualClock : public xplClockSource {
+ public:
+  explicit xplManualClock(xplInstant start) : m_now(start) {}
+  xplInstant now() override { return m_now; }
+  void sleep(unsigned milliseconds) override { advance(std::int64_t{milliseconds} * 1000); }
+  void set(xplInstant instant) { m_now = instant; }
+  // Moves the clock by this many microseconds; a negative amount moves it back.
+  void advance(std::int64_t microseconds);
+
+ private:
+  xplInstant m_now;
+};
+
+// The process's clock.
+class xplClock {
+ public:
+  // Seconds since 1 January 1970 UTC.
+  static std::int64_t now();
+  static xplInstant preciseNow();
+  static void sleep(unsigned milliseconds);
+
+  // Local broken-down time of a moment; nothing where the platform cannot tell (a year that does not fit).
+  static std::optional<std::tm> localTime(std::int64_t seconds);
+
+  // Replaces the source until the object goes; the source is borrowed and must outlive it. Uses nest.
+  class Override {
+   public:
+    explicit Override(xplClockSource& source);
+    ~Override();
+    Override(const Override&) = delete;
+    Override& operator=(const Override&) = delete;
+
+   private:
+    xplClockSource* m_previous;
+  };
+};

@@ -1,0 +1,53 @@
+// The settings store: a sorted map of keys to values, kept in one text file with a line for each key.
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <optional>
+#include <string>
+
+class xplSettings {
+ public:
+  // Which folder the file lies in: 1 is all users' application data, anything else the current user's.
+  static constexpr int scopeAllUsers = 1;
+  static constexpr int scopeUser = 3;
+
+  // Finds (and makes) the folder, and loads the file; what fails is logged and the store is usable all the same.
+  explicit xplSettings(int scope);
+  // Saves when saveOnEveryChange is off.
+  ~xplSettings();
+  xplSettings(const xplSettings&) = delete;
+  xplSettings& operator=(const xplSettings&) = delete;
+
+  // Replaces a value, and saves at once when saveOnEveryChange is on.
+  void set(const std::string& key, const std::string& value);
+  void set(const std::string& key, const char* value) { set(key, std::string(value)); }
+  void set(const std::string& key, bool value);  // "yes" or "no"
+  void set(const std::string& key, int value);
+  void set(const std::string& key, std::int64_t value);
+  void set(const std::string& key, double value);  // six significant digits
+
+  // The stored text; nothing where the key is absent.
+  std::optional<std::string> get(const std::string& key) const;
+  // The stored value, or the default where the key is absent or its text is not wholly such a value.
+  bool getBool(const std::string& key, bool defaultValue) const;
+  int getInt(const std::string& key, int defaultValue) const;
+  std::int64_t getInt64(const std::string& key, std::int64_t defaultValue) const;
+
+  const std::string& filename() const { return m_filename; }
+
+  bool saveOnEveryChange = true;
+
+ private:
+  bool load();
+  bool save();
+
+  std::map<std::string, std::string> m_values;
+  std::string m_filename;
+};
+
+// The two stores of the process, opened by their first user.
+xplSettings& xplUserSettings();
+xplSettings& xplApplicationSettings();
+// Closes both, so that the next user opens them afresh (tests; a change of folders).
+void xplCloseSettings();
