@@ -8,7 +8,8 @@ class xplColor {
  public:
   constexpr xplColor() = default;
   constexpr xplColor(std::uint8_t red, std::uint8_t green, std::uint8_t blue, std::uint8_t alpha = 255)
-      : m_value((std::uint32_t{red} << 24) | (std::uint32_t{green} << 16) | (std::uint32_t{blue} << 8) | alpha) {}
+      : m_value((std::uint32_t{red} << 24) | (std::uint32_t{green} << 16) | (std::uint32_t{blue} << 8) |
+                alpha) {}
   // From the whole word, 0xRRGGBBAA.
   static constexpr xplColor fromValue(std::uint32_t value) {
     xplColor color;
@@ -24,7 +25,8 @@ class xplColor {
 
   // Red, green and blue times the factor, each clamped to [0, 255] and truncated; alpha stays.
   constexpr xplColor scaledBy(float factor) const {
-    return {scaleChannel(red(), factor), scaleChannel(green(), factor), scaleChannel(blue(), factor), alpha()};
+    return {scaleChannel(red(), factor), scaleChannel(green(), factor), scaleChannel(blue(), factor),
+            alpha()};
   }
 
   friend constexpr bool operator==(xplColor a, xplColor b) { return a.m_value == b.m_value; }

@@ -1,4 +1,5 @@
-// An off-screen picture: made empty, loaded, scaled, cropped, read and written by pixels, and drawn on the window.
+// An off-screen picture: made empty, loaded, scaled, cropped, read and written by pixels, and drawn on the
+// window.
 #pragma once
 
 #include <string>

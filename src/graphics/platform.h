@@ -1,8 +1,10 @@
 // The seam of the graphics layer: what a platform supplies to it, and under which common names.
 //
 // Whoever writes the next platform supplies:
-// - its rectangle type and its drawing target (xplDeviceContextOf), and drawing tools derived from xpliDrawingTools;
-// - a window class derived from xplWindowBase that fills every slot but those of xplWindow; it is made from a native
+// - its rectangle type and its drawing target (xplDeviceContextOf), and drawing tools derived from
+// xpliDrawingTools;
+// - a window class derived from xplWindowBase that fills every slot but those of xplWindow; it is made from a
+// native
 //   handle (xplWindowHandle), owns the back buffer, and gives its present target with currentTarget();
 // - an image class derived from xplImageBase that fills every slot but those of xplImage.
 // Pixels are what counts: fills, ellipses, lines, blits and the scaler give the same ones on every platform.

@@ -1,8 +1,8 @@
 // A rectangle by its top-left corner and size; right and bottom are exclusive edges.
 #pragma once
 
-// T is int (pixels) or float (pixels). The four operations are virtual because sprites carry them as their first
-// slots; there is no virtual destructor, so never delete through this class.
+// T is int (pixels) or float (pixels). The four operations are virtual because sprites carry them as their
+// first slots; there is no virtual destructor, so never delete through this class.
 template <class T>
 class xplRect {
  public:

@@ -6,7 +6,8 @@
 
 #include "graphics/color.h"
 
-// Attributes for one drawText, or to push on the window's stacks. A field without a value leaves its stack alone.
+// Attributes for one drawText, or to push on the window's stacks. A field without a value leaves its stack
+// alone.
 struct xplTextAttributes {
   // Any value but these two means left.
   static constexpr int alignmentRight = 2;

@@ -1,4 +1,5 @@
-// The window's part that is the same on every platform: attribute stacks and the operations derived from others.
+// The window's part that is the same on every platform: attribute stacks and the operations derived from
+// others.
 #pragma once
 
 #include <string>
@@ -52,5 +53,10 @@ class xplWindowBase {
   xplAttributeStack<int> thin{0};
 
  protected:
+  // The font attributes as they stand: face, size, spacing and the two flags; no colour, no alignment.
+  xplTextDrawingInfo currentFontInfo() const;
+  // Called after each drawing operation, for platforms that show direct drawing themselves.
+  virtual void drawn() {}
+
   bool useBackBuffer = true;
 };

@@ -19,7 +19,8 @@ using File = std::unique_ptr<std::FILE, FileCloser>;
 
 [[noreturn]] void failOn(const std::string& name) {
   const auto reason = std::generic_category().message(errno);
-  throw std::runtime_error("cannot write " + (name == "-" ? "standard output" : "'" + name + "'") + ": " + reason);
+  throw std::runtime_error("cannot write " + (name == "-" ? "standard output" : "'" + name + "'") + ": " +
+                           reason);
 }
 
 void writeBytes(const std::string& name, const char* mode, const void* bytes, std::size_t size) {

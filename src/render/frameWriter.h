@@ -19,8 +19,8 @@ class FrameWriter {
   explicit FrameWriter(const RenderOptions& options) : m_options(options) {}
   FrameWriter(const RenderOptions&&) = delete;
 
-  // Writes frame `number` (from 0), options.width x options.height pixels of 0xffRRGGBB. Throws std::runtime_error
-  // with the file's name and the reason where it cannot.
+  // Writes frame `number` (from 0), options.width x options.height pixels of 0xffRRGGBB. Throws
+  // std::runtime_error with the file's name and the reason where it cannot.
   void write(int number, const std::vector<std::uint32_t>& pixels);
 
  private:

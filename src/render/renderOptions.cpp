@@ -24,8 +24,10 @@ const char* const usage =
     "  --settings FILE  use the choices of this settings file (the defaults)\n"
     "  --quotes FILE    use this file of quotations, one a line\n"
     "  --preview        draw what the small preview shows\n"
-    "  --hashes         print a line for each frame: number, state of the random numbers, hash of the pixels\n"
-    "  --raw            write frames as bytes, blue, green, red and 255 for each pixel, one frame after another\n"
+    "  --hashes         print a line for each frame: number, state of the random numbers, hash of the "
+    "pixels\n"
+    "  --raw            write frames as bytes, blue, green, red and 255 for each pixel, one frame after "
+    "another\n"
     "  -o FILE          where to write; - is standard output\n"
     "  --help, --version\n"
     "\n"
@@ -67,20 +69,19 @@ const std::map<std::string, Reader>& readersOfValues() {
          options.time = parseIsoTime(text);
          return options.time.has_value();
        }},
-      {"--at",
-       [](const std::string& text, RenderOptions& options) {
-         return parseNumber(text, 0.0, maxSeconds, options.atSeconds);
-       }},
+      {"--at", [](const std::string& text,
+                  RenderOptions& options) { return parseNumber(text, 0.0, maxSeconds, options.atSeconds); }},
       {"--frames",
        [](const std::string& text, RenderOptions& options) {
          options.frames = 0;
          return parseNumber(text, 1, 100'000'000, *options.frames);
        }},
-      {"--settings",
-       [](const std::string& text, RenderOptions& options) { return !(options.settingsFile = text).empty(); }},
+      {"--settings", [](const std::string& text,
+                        RenderOptions& options) { return !(options.settingsFile = text).empty(); }},
       {"--quotes",
        [](const std::string& text, RenderOptions& options) { return !(options.quotesFile = text).empty(); }},
-      {"-o", [](const std::string& text, RenderOptions& options) { return !(options.output = text).empty(); }},
+      {"-o",
+       [](const std::string& text, RenderOptions& options) { return !(options.output = text).empty(); }},
   };
   return readers;
 }
@@ -130,8 +131,8 @@ std::optional<std::int64_t> parseIsoTime(const std::string& text) {
   if (moment.size() == 16) {
     moment += ":00";
   }
-  if (moment.size() != 19 || moment[4] != '-' || moment[7] != '-' || (moment[10] != 'T' && moment[10] != ' ') ||
-      moment[13] != ':' || moment[16] != ':') {
+  if (moment.size() != 19 || moment[4] != '-' || moment[7] != '-' ||
+      (moment[10] != 'T' && moment[10] != ' ') || moment[13] != ':' || moment[16] != ':') {
     return std::nullopt;
   }
   std::array<int, 6> values{};

@@ -11,10 +11,10 @@ struct RenderOptions {
   int height = 1080;  // pixels, in [1, 16384]
   std::uint32_t seed = 1;
   std::optional<std::int64_t> time;  // seconds since 1970 UTC; absent: now
-  double atSeconds = 0.0;            // how long the sky has run at the first frame that is written, at least 0
-  std::optional<int> frames;         // how many frames are written, at least 1; absent: one
-  std::string settingsFile;          // empty: the defaults
-  std::string quotesFile;            // empty: none
+  double atSeconds = 0.0;     // how long the sky has run at the first frame that is written, at least 0
+  std::optional<int> frames;  // how many frames are written, at least 1; absent: one
+  std::string settingsFile;   // empty: the defaults
+  std::string quotesFile;     // empty: none
   bool preview = false;
   bool hashes = false;
   bool raw = false;

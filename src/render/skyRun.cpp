@@ -28,7 +28,8 @@ constexpr double stepsPerSecond = 25.0;
 class PrivateFolder {
  public:
   PrivateFolder()
-      : m_path(std::filesystem::temp_directory_path() / ("lunaria-render-" + std::to_string(processNumber()))) {
+      : m_path(std::filesystem::temp_directory_path() /
+               ("lunaria-render-" + std::to_string(processNumber()))) {
     std::filesystem::create_directory(m_path);
     std::filesystem::permissions(m_path, std::filesystem::perms::owner_all);
     xplCloseSettings();

@@ -6,7 +6,7 @@
 
 #include "render/renderOptions.h"
 
-// Draws what the options ask for. Lines of --hashes go to `printLine`, progress (frames done, frames in all) to
-// `progress`. Throws std::runtime_error with a text for the user where a file cannot be read or written.
+// Draws what the options ask for. Lines of --hashes go to `printLine`, progress (frames done, frames in all)
+// to `progress`. Throws std::runtime_error with a text for the user where a file cannot be read or written.
 void runSky(const RenderOptions& options, const std::function<void(const std::string&)>& printLine,
             const std::function<void(int, int)>& progress);

@@ -4,6 +4,6 @@
 #include <cstdint>
 #include <vector>
 
-// The bytes of a PNG file of width x height pixels, three bytes (red, green, blue) each, row by row from the top.
-// Throws std::runtime_error where the library fails.
+// The bytes of a PNG file of width x height pixels, three bytes (red, green, blue) each, row by row from the
+// top. Throws std::runtime_error where the library fails.
 std::vector<std::uint8_t> encodePng(int width, int height, const std::vector<std::uint8_t>& rgb);

@@ -15,8 +15,8 @@ struct xplDeviceContextOf<xplEdges> {
 
 class xplDrawingToolsLinux : public xpliDrawingTools<xplEdges> {
  public:
-  // Refers to a slot that holds the present target: changing the slot redirects every later call. The slot must
-  // outlive the tools. dotsPerInch: the target's, at least 1.
+  // Refers to a slot that holds the present target: changing the slot redirects every later call. The slot
+  // must outlive the tools. dotsPerInch: the target's, at least 1.
   explicit xplDrawingToolsLinux(Surface* const& target, int dotsPerInch = 96)
       : m_target(target), m_dotsPerInch(dotsPerInch) {}
   xplDrawingToolsLinux(Surface* const&& target, int dotsPerInch = 96) = delete;

@@ -1,8 +1,8 @@
 // What the graphics layer needs of a window on Linux, whatever shows it: X11, a file, or a test.
 //
-// Whoever writes the next one supplies: a rectangle that stays, memory that the window can show, a copy of what it
-// shows now, and present(). Calls come from one thread. None of them throws; a window whose display has gone does
-// nothing.
+// Whoever writes the next one supplies: a rectangle that stays, memory that the window can show, a copy of
+// what it shows now, and present(). Calls come from one thread. None of them throws; a window whose display
+// has gone does nothing.
 #pragma once
 
 #include <cstdint>
@@ -20,14 +20,16 @@ class xpliNativeWindow {
   virtual std::uintptr_t id() const = 0;
   // In screen coordinates (pixels).
   virtual xplEdges rectangle() const = 0;
-  // The monitors of the whole virtual screen, in screen coordinates, the main one first; empty where it fails.
+  // The monitors of the whole virtual screen, in screen coordinates, the main one first; empty where it
+  // fails.
   virtual std::vector<xplEdges> monitors() const = 0;
-  // Memory of the given size that present() can show; the caller owns it, and drops it before the window goes.
+  // Memory of the given size that present() can show; the caller owns it, and drops it before the window
+  // goes.
   virtual std::unique_ptr<PixelMemory> makePixelMemory(int width, int height) = 0;
   // Copies what the window shows now into memory of the window's own size.
   virtual void copyContent(PixelMemory& memory) = 0;
-  // Shows this part of the memory (which came from makePixelMemory) at the same place of the window. The display may
-  // go on reading the memory until waitUntilShown() returns: whoever writes into it waits first.
+  // Shows this part of the memory (which came from makePixelMemory) at the same place of the window. The
+  // display may go on reading the memory until waitUntilShown() returns: whoever writes into it waits first.
   virtual void present(PixelMemory& memory, const xplEdges& part) = 0;
   virtual void waitUntilShown() = 0;
   // Dots per inch for text, at least 1.

@@ -1,4 +1,5 @@
-// The memory behind a surface; a native window may supply its own kind, such as memory shared with the display.
+// The memory behind a surface; a native window may supply its own kind, such as memory shared with the
+// display.
 #pragma once
 
 #include <cstddef>
@@ -7,7 +8,8 @@
 class PixelMemory {
  public:
   virtual ~PixelMemory() = default;
-  // Row by row from the top, stride() words to a row; 32 bits a pixel, blue in the lowest byte. Aligned to 16 bytes.
+  // Row by row from the top, stride() words to a row; 32 bits a pixel, blue in the lowest byte. Aligned to 16
+  // bytes.
   virtual std::uint32_t* pixels() = 0;
   virtual std::size_t stride() const = 0;  // words, at least width()
   virtual int width() const = 0;           // pixels, at least 0

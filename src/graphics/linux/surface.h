@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <vector>
 
 #include "graphics/color.h"
 #include "graphics/linux/pixelMemory.h"
@@ -17,12 +18,13 @@ struct xplEdges {
   int bottom = 0;
 };
 
-// Only this folder may see the memory behind a surface: what is drawn is going to be recorded, so everything else
-// draws through the operations. Every operation clips to the surface, and gives the pixels that GDI gives.
+// Only this folder may see the memory behind a surface: what is drawn is going to be recorded, so everything
+// else draws through the operations. Every operation clips to the surface, and gives the pixels that GDI
+// gives.
 class Surface {
  public:
-  // Sizes in pixels; a size of 0 or below makes an empty surface. Throws std::bad_alloc where there is no memory.
-  // The content is undefined until it is filled.
+  // Sizes in pixels; a size of 0 or below makes an empty surface. Throws std::bad_alloc where there is no
+  // memory. The content is undefined until it is filled.
   Surface(int width, int height);
   // Takes over memory that a native window supplied.
   explicit Surface(std::unique_ptr<PixelMemory> memory);
@@ -33,7 +35,8 @@ class Surface {
   xplColor getPixel(int x, int y) const;  // white outside
   void setPixel(int x, int y, xplColor color);
   void fillRect(const xplEdges& edges, xplColor color);
-  // The ellipse inside the edges, filled with the colour, with the one-pixel black outline of GDI's default pen.
+  // The ellipse inside the edges, filled with the colour, with the one-pixel black outline of GDI's default
+  // pen.
   void fillEllipse(const xplEdges& edges, xplColor color);
   // The last pixel is not drawn. A width below 1 counts as 1.
   void drawLine(int x1, int y1, int x2, int y2, int penWidth, xplColor color);
@@ -43,6 +46,9 @@ class Surface {
   // Copies the whole source into the whole surface, dropping or repeating pixels.
   void stretchFrom(const Surface& source);
 
+  // All pixels, row by row from the top without gaps: 0xffRRGGBB each.
+  void copyTo(std::vector<std::uint32_t>& pixels) const;
+
   // For this folder only: the pixels, row by row, stride() words to a row.
   std::uint32_t* pixels() { return m_memory->pixels(); }
   const std::uint32_t* pixels() const { return m_memory->pixels(); }
@@ -50,6 +56,13 @@ class Surface {
   PixelMemory& memory() { return *m_memory; }
 
  private:
+  // The part of [left, right) x [top, bottom) that lies on the surface; empty parts have right <= left.
+  xplEdges clipped(const xplEdges& edges) const;
+  std::uint32_t* row(int y) { return pixels() + static_cast<std::size_t>(y) * stride(); }
+  const std::uint32_t* row(int y) const { return pixels() + static_cast<std::size_t>(y) * stride(); }
+  // Fills [left, right) of a row, clipped.
+  void fillRow(int y, int left, int right, std::uint32_t word);
+
   std::unique_ptr<PixelMemory> m_memory;
   int m_width;
   int m_height;

@@ -20,12 +20,13 @@ struct TextSize {
   int height = 0;  // pixels
 };
 
-// The character height in pixels of a size in points: points x dots per inch / 72, rounded half away from zero.
+// The character height in pixels of a size in points: points x dots per inch / 72, rounded half away from
+// zero.
 int characterHeightOf(int points, int dotsPerInch);
 
-// Lines are broken at "\n" and "\r\n"; a byte that is not UTF-8 counts as the replacement character. Without any
-// usable font nothing is drawn, sizes are 0, and one error entry says so.
+// Lines are broken at "\n" and "\r\n"; a byte that is not UTF-8 counts as the replacement character. Without
+// any usable font nothing is drawn, sizes are 0, and one error entry says so.
 TextSize measureText(const std::string& text, const TextStyle& style);
 // alignment: as in xplTextDrawingInfo. y is the top of the first line.
-void drawTextOn(Surface& surface, int x, int y, const std::string& text, const TextStyle& style, xplColor color,
-                int alignment);
+void drawTextOn(Surface& surface, int x, int y, const std::string& text, const TextStyle& style,
+                xplColor color, int alignment);

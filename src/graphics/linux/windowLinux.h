@@ -29,17 +29,23 @@ class xplWindowLinux : public xplWindowBase {
   void getTextSize(const std::string& text, int* width, int* height) override;
   void setUseBackBuffer(bool use) override;
 
-  // Where drawing goes now; null without a native window.
-  Surface* const& currentTarget() const { return m_target; }
+  // Where drawing goes now; null without a native window. Waits until the display has read the last frame.
+  Surface* const& currentTarget();
 
  protected:
-  xplDrawingToolsLinux& tools() { return m_tools; }
+  xplDrawingToolsLinux& tools();
+  // Shows what was drawn straight to the window.
+  void drawn() override;
 
  private:
+  void waitUntilShown();
+
   xplWindowHandle m_handle;
-  xplEdges m_windowRect;                    // screen coordinates, read once
-  std::unique_ptr<Surface> m_backBuffer;    // null without a native window
-  std::unique_ptr<Surface> m_directSurface; // what drawing straight to the window goes through; made on first use
+  xplEdges m_windowRect;                  // screen coordinates, read once
+  std::unique_ptr<Surface> m_backBuffer;  // null without a native window
+  std::unique_ptr<Surface>
+      m_directSurface;  // what drawing straight to the window goes through; made on first use
   Surface* m_target = nullptr;
+  bool m_isBeingShown = false;  // the display may still read what was presented last
   xplDrawingToolsLinux m_tools;
 };

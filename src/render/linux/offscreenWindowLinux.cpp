@@ -14,14 +14,20 @@ OffscreenWindow::OffscreenWindow(int width, int height)
 
 OffscreenWindow::~OffscreenWindow() = default;
 
-xplWindowHandle OffscreenWindow::handle() { return &m_native->window; }
+xplWindowHandle OffscreenWindow::handle() {
+  return &m_native->window;
+}
 
 void OffscreenWindow::readFrame(xplWindow&, std::vector<std::uint32_t>& pixels) {
   m_native->window.shown().copyTo(pixels);
 }
 
-bool standardErrorIsTerminal() { return isatty(STDERR_FILENO) == 1; }
+bool standardErrorIsTerminal() {
+  return isatty(STDERR_FILENO) == 1;
+}
 
 void makeStandardOutputBinary() {}
 
-unsigned long processNumber() { return static_cast<unsigned long>(getpid()); }
+unsigned long processNumber() {
+  return static_cast<unsigned long>(getpid());
+}

@@ -1,19 +1,19 @@
 // The renderer's window on Windows: a popup that is never shown.
-#include <fcntl.h>
-#include <io.h>
-
 #include <cstring>
 #include <stdexcept>
+
+#include <fcntl.h>
+#include <io.h>
 
 #include "graphics/windows/gdi.h"
 #include "render/offscreenWindow.h"
 
 struct OffscreenWindow::Native {
   HWND window = nullptr;
-  HDC context = nullptr;         // a memory context that holds the bitmap
-  HBITMAP bitmap = nullptr;      // top-down, 32 bits
-  HGDIOBJ previous = nullptr;    // what the context held before
-  std::uint32_t* bits = nullptr; // the bitmap's own memory
+  HDC context = nullptr;          // a memory context that holds the bitmap
+  HBITMAP bitmap = nullptr;       // top-down, 32 bits
+  HGDIOBJ previous = nullptr;     // what the context held before
+  std::uint32_t* bits = nullptr;  // the bitmap's own memory
   int width = 0;
   int height = 0;
 };
@@ -50,7 +50,9 @@ OffscreenWindow::~OffscreenWindow() {
   DestroyWindow(m_native->window);
 }
 
-xplWindowHandle OffscreenWindow::handle() { return m_native->window; }
+xplWindowHandle OffscreenWindow::handle() {
+  return m_native->window;
+}
 
 void OffscreenWindow::readFrame(xplWindow& window, std::vector<std::uint32_t>& pixels) {
   // A window that is not shown keeps nothing of what is flushed to it; the back buffer holds the same frame.
@@ -63,8 +65,14 @@ void OffscreenWindow::readFrame(xplWindow& window, std::vector<std::uint32_t>& p
   }
 }
 
-bool standardErrorIsTerminal() { return _isatty(_fileno(stderr)) != 0; }
+bool standardErrorIsTerminal() {
+  return _isatty(_fileno(stderr)) != 0;
+}
 
-void makeStandardOutputBinary() { _setmode(_fileno(stdout), _O_BINARY); }
+void makeStandardOutputBinary() {
+  _setmode(_fileno(stdout), _O_BINARY);
+}
 
-unsigned long processNumber() { return GetCurrentProcessId(); }
+unsigned long processNumber() {
+  return GetCurrentProcessId();
+}

@@ -1,0 +1,24 @@
+// Pixel memory of the process's own.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+#include "graphics/linux/pixelMemory.h"
+
+class HeapPixelMemory : public PixelMemory {
+ public:
+  // Sizes in pixels; below 0 counts as 0. Starts black. Throws std::bad_alloc where there is no memory.
+  HeapPixelMemory(int width, int height);
+
+  std::uint32_t* pixels() override { return m_pixels.data(); }
+  std::size_t stride() const override { return static_cast<std::size_t>(m_width); }
+  int width() const override { return m_width; }
+  int height() const override { return m_height; }
+
+ private:
+  int m_width;
+  int m_height;
+  std::vector<std::uint32_t> m_pixels;
+};
