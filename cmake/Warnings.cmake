@@ -14,7 +14,6 @@ target_compile_options(lunaria_warnings INTERFACE
   -Woverloaded-virtual     # a slot that is hidden instead of overridden is silently never called
   -Wdelete-non-virtual-dtor # some sprites have no virtual destructor on purpose: never delete through them
   -Wformat=2               # the log takes printf formats; their arguments are checked
-  -Wnull-dereference       # found by data flow, so it catches what a reader misses
   -Wundef                  # a misspelt macro in a condition would count as 0
   -Wextra-semi             # noise that hides real differences
   -Werror)                 # a warning that is only printed is a warning that is not read

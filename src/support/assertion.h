@@ -13,9 +13,9 @@ inline constexpr bool xplAssertionsReport = true;
 
 // Reports where `condition` is false. The condition is always compiled, and evaluated only in debug builds.
 // `text` starts with a tag such as "#8662:" by which a developer finds the place; `source` names the unit.
-#define xplAssert(condition, text, source)                                 \
-  do {                                                                     \
-    if (xplAssertionsReport && !(condition)) {                             \
-      xplReportFailedAssertion(#condition, text, source, __LINE__);        \
-    }                                                                      \
+#define xplAssert(condition, text, source)                          \
+  do {                                                              \
+    if (xplAssertionsReport && !(condition)) {                      \
+      xplReportFailedAssertion(#condition, text, source, __LINE__); \
+    }                                                               \
   } while (false)

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <ctime>
+#include <mutex>
 #include <optional>
 
 // A moment: whole seconds since 1 January 1970 UTC, and the microseconds into that second, in [0, 1000000).
@@ -24,13 +25,14 @@ class xplClockSource {
 class xplManualClock : public xplClockSource {
  public:
   explicit xplManualClock(xplInstant start) : m_now(start) {}
-  xplInstant now() override { return m_now; }
+  xplInstant now() override;
   void sleep(unsigned milliseconds) override { advance(std::int64_t{milliseconds} * 1000); }
-  void set(xplInstant instant) { m_now = instant; }
+  void set(xplInstant instant);
   // Moves the clock by this many microseconds; a negative amount moves it back.
   void advance(std::int64_t microseconds);
 
  private:
+  std::mutex m_mutex;  // a worker sleeps on the clock while the test reads it
   xplInstant m_now;
 };
 

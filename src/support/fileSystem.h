@@ -7,8 +7,8 @@
 // All paths are narrow strings: UTF-8 on Linux, the system code page on Windows.
 class xplFileSystemMini {
  public:
-  // Folder queries. Each returns an empty string when the platform cannot tell; all but the temporary folder's
-  // then write an error entry. The temporary folder ends with a separator, the others do not.
+  // Folder queries. Each returns an empty string when the platform cannot tell; all but the temporary
+  // folder's then write an error entry. The temporary folder ends with a separator, the others do not.
   static std::string getFolder_Temporary();
   static std::string getFolder_UserHome();
   static std::string getFolder_CommonAppData();
@@ -19,7 +19,8 @@ class xplFileSystemMini {
   // Kind 1 is getFolder_CommonAppData, 2 the temporary folder, 3 getFolder_UserData; any other gives "".
   static std::string getFolderByKind(int kind);
 
-  // The program's own file: its full path ("" where unknown), its name, and its folder (no separator at the end).
+  // The program's own file: its full path ("" where unknown), its name, and its folder (no separator at the
+  // end).
   static std::string applicationFullPath();
   static std::string applicationFileName();
   static std::string applicationFolder();
@@ -48,13 +49,14 @@ class xplFileSystemMini {
   // A plain-text report of the folders, one a line.
   static std::string report();
 
-  // From now on every folder query answers with a folder below `root` (made where missing), so that tests and the
-  // renderer touch nothing of the user's. An empty root ends it.
+  // From now on every folder query answers with a folder below `root` (made where missing), so that tests and
+  // the renderer touch nothing of the user's. An empty root ends it.
   static void redirectFolders(const std::string& root);
 
   // The character that the platform puts between folders.
   static char separator();
-
+  // What ends a line of a text file on the platform.
+  static const char* lineEnd();
 };
 
 // The text that goes to a debugger: standard error on Linux.

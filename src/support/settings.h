@@ -12,7 +12,8 @@ class xplSettings {
   static constexpr int scopeAllUsers = 1;
   static constexpr int scopeUser = 3;
 
-  // Finds (and makes) the folder, and loads the file; what fails is logged and the store is usable all the same.
+  // Finds (and makes) the folder, and loads the file; what fails is logged and the store is usable all the
+  // same.
   explicit xplSettings(int scope);
   // Saves when saveOnEveryChange is off.
   ~xplSettings();
@@ -36,6 +37,19 @@ class xplSettings {
 
   const std::string& filename() const { return m_filename; }
 
+  // While one lives, changes stay in memory; when it goes they are saved together.
+  class Batch {
+   public:
+    explicit Batch(xplSettings& store);
+    ~Batch();
+    Batch(const Batch&) = delete;
+    Batch& operator=(const Batch&) = delete;
+
+   private:
+    xplSettings& m_store;
+    bool m_savedBefore;
+  };
+
   bool saveOnEveryChange = true;
 
  private:
@@ -44,6 +58,7 @@ class xplSettings {
 
   std::map<std::string, std::string> m_values;
   std::string m_filename;
+  bool m_fileIsUnread = false;  // there is a file whose content we do not know; saving would destroy it
 };
 
 // The two stores of the process, opened by their first user.

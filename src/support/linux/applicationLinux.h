@@ -10,7 +10,7 @@ class xplAppLinux : public xplAppBase {
  public:
   xplAppLinux();
 
-  // The program's own name and the framework's canonical arguments ("/s", "/p" ID or "/c"). The host calls this
-  // once, before any application object is made.
+  // The program's own name and the framework's canonical arguments ("/s", "/p" ID or "/c"). The host calls
+  // this once, before any application object is made.
   static void setArguments(std::vector<std::string> arguments);
 };

@@ -1,0 +1,27 @@
+// Implements the scoped loggers.
+#include "support/assertion.h"
+#include "support/log.h"
+
+logBlockOfCode::logBlockOfCode(std::string name, const char* startWord, const char* endWord)
+    : m_name(std::move(name)), m_endWord(endWord) {
+  logInfo().addf("%s: %s", startWord, m_name.c_str());
+  xplLogLevel::m_IdentLevel.fetch_add(1, std::memory_order_relaxed);
+}
+
+logBlockOfCode::~logBlockOfCode() {
+  // Deliberate: an end too many leaves the level below zero, and the entries after it lose their marks until
+  // starts make up for it. The log shows the mistake; do not clamp the level at zero.
+  const int m_IdentLevel = xplLogLevel::m_IdentLevel.fetch_sub(1, std::memory_order_relaxed) - 1;
+  xplAssert(m_IdentLevel >= 0, "#9541: reducing log ident to <0", "io.xplLog");
+  logInfo().addf("%s: %s", m_endWord, m_name.c_str());
+}
+
+logTimeCountrer::logTimeCountrer(std::string name)
+    : logFunctionLife(std::move(name)), m_start(xplClock::preciseNow()) {}
+
+logTimeCountrer::~logTimeCountrer() {
+  const xplInstant end = xplClock::preciseNow();
+  const double elapsed = static_cast<double>(end.seconds - m_start.seconds) +
+                         static_cast<double>(end.microseconds - m_start.microseconds) / 1e6;
+  m_name += stringFormat(". Duration:%.3f sec", elapsed);
+}

@@ -1,0 +1,191 @@
+// The settings store: where its file lies, when it is read and saved.
+#include "support/settings.h"
+
+#include <charconv>
+#include <fstream>
+#include <iterator>
+#include <locale>
+#include <memory>
+#include <sstream>
+
+#include "support/assertion.h"
+#include "support/fileSystem.h"
+#include "support/log.h"
+#include "support/settingsFormat.h"
+
+namespace {
+
+constexpr const char* companyFolder = "Lunaria software";
+constexpr const char* applicationName = "Lunaria screensaver";
+
+std::string baseFolderOf(int scope) {
+  return scope == xplSettings::scopeAllUsers ? xplFileSystemMini::getFolder_CommonAppData()
+                                             : xplFileSystemMini::getFolder_UserData();
+}
+
+std::string makeCompanyFolder(const std::string& base) {
+  const std::string folder = xplFileSystemMini::joinPath(base, companyFolder);
+  if (!xplFileSystemMini::fileExists(folder) && !xplFileSystemMini::folderExists(folder)) {
+    xplFileSystemMini::createFolder(folder);
+  }
+  if (!xplFileSystemMini::folderExists(folder)) {
+    logError().add("During xplSettings constructor could not create folder:" + folder);
+  }
+  return folder;
+}
+
+// The whole text as a number; nothing where it is none or out of range.
+template <class T>
+std::optional<T> parseWhole(const std::optional<std::string>& text) {
+  T value{};
+  if (!text) {
+    return std::nullopt;
+  }
+  const char* const end = text->data() + text->size();
+  const auto result = std::from_chars(text->data(), end, value);
+  return result.ec == std::errc{} && result.ptr == end ? std::optional<T>(value) : std::nullopt;
+}
+
+template <class T>
+std::string numberText(T value) {
+  std::ostringstream stream;
+  stream.imbue(std::locale::classic());
+  stream << value;
+  return stream.str();
+}
+
+std::unique_ptr<xplSettings>& userStore() {
+  static std::unique_ptr<xplSettings> store;
+  return store;
+}
+
+std::unique_ptr<xplSettings>& applicationStore() {
+  static std::unique_ptr<xplSettings> store;
+  return store;
+}
+
+xplSettings& opened(std::unique_ptr<xplSettings>& store, int scope) {
+  if (store == nullptr) {
+    store = std::make_unique<xplSettings>(scope);
+  }
+  return *store;
+}
+
+}  // namespace
+
+xplSettings::xplSettings(int scope) {
+  const std::string _settingsFilename = baseFolderOf(scope);
+  xplAssert(xplFileSystemMini::folderExists(_settingsFilename.c_str()),
+            "xplFileSystemMini::folderExists(_settingsFilename.c_str()) && _T(\"#5381: settings folder does "
+            "not exist\")",
+            "xplSettings");
+  m_filename = xplFileSystemMini::joinPath(makeCompanyFolder(_settingsFilename),
+                                           std::string(applicationName) + ".ini");
+  logInfo().add("xplSettings constructor: filename:" + m_filename);
+  if (!load()) {
+    logError().add("Error #1351: loading xplSettings from file:" + m_filename);
+  }
+}
+
+xplSettings::~xplSettings() {
+  if (!saveOnEveryChange && !save()) {
+    logError().add("Error #1352: saving xplSettings to file:" + m_filename);
+  }
+}
+
+bool xplSettings::load() {
+  m_fileIsUnread = false;
+  if (!xplFileSystemMini::fileExists(m_filename)) {
+    return true;
+  }
+  std::ifstream file(m_filename, std::ios::binary);
+  if (!file) {
+    m_fileIsUnread = true;
+    logError().add("#8551: Could not open file:" + m_filename);
+    return false;
+  }
+  m_values.clear();
+  parseSettings({std::istreambuf_iterator<char>(file), {}}, m_values);
+  return true;
+}
+
+bool xplSettings::save() {
+  std::string reason = "the file is there but could not be read, and is left as it is";
+  if (!m_fileIsUnread && xplFileSystemMini::replaceFile(
+                             m_filename, formatSettings(m_values, xplFileSystemMini::lineEnd()), reason)) {
+    return true;
+  }
+  logError().add("Error saving file " + m_filename + " Error message:" + reason);
+  return false;
+}
+
+void xplSettings::set(const std::string& key, const std::string& value) {
+  m_values[key] = value;
+  if (saveOnEveryChange && !save()) {
+    logError().add("Error #1352c: saving xplSettings to file:" + m_filename);
+  }
+}
+
+void xplSettings::set(const std::string& key, bool value) {
+  set(key, std::string(value ? "yes" : "no"));
+}
+
+void xplSettings::set(const std::string& key, int value) {
+  set(key, numberText(value));
+}
+
+void xplSettings::set(const std::string& key, std::int64_t value) {
+  set(key, numberText(value));
+}
+
+void xplSettings::set(const std::string& key, double value) {
+  set(key, numberText(value));
+}
+
+xplSettings::Batch::Batch(xplSettings& store) : m_store(store), m_savedBefore(store.saveOnEveryChange) {
+  m_store.saveOnEveryChange = false;
+}
+
+xplSettings::Batch::~Batch() {
+  m_store.saveOnEveryChange = m_savedBefore;
+  if (m_savedBefore && !m_store.save()) {
+    logError().add("Error #1352c: saving xplSettings to file:" + m_store.m_filename);
+  }
+}
+
+std::optional<std::string> xplSettings::get(const std::string& key) const {
+  const auto found = m_values.find(key);
+  return found == m_values.end() ? std::nullopt : std::optional(found->second);
+}
+
+bool xplSettings::getBool(const std::string& key, bool defaultValue) const {
+  const std::string text = get(key).value_or("");
+  if (text == "yes" || text == "true" || text == "1" || text == "on") {
+    return true;
+  }
+  if (text == "no" || text == "false" || text == "0" || text == "off") {
+    return false;
+  }
+  return defaultValue;
+}
+
+int xplSettings::getInt(const std::string& key, int defaultValue) const {
+  return parseWhole<int>(get(key)).value_or(defaultValue);
+}
+
+std::int64_t xplSettings::getInt64(const std::string& key, std::int64_t defaultValue) const {
+  return parseWhole<std::int64_t>(get(key)).value_or(defaultValue);
+}
+
+xplSettings& xplUserSettings() {
+  return opened(userStore(), xplSettings::scopeUser);
+}
+
+xplSettings& xplApplicationSettings() {
+  return opened(applicationStore(), xplSettings::scopeAllUsers);
+}
+
+void xplCloseSettings() {
+  userStore().reset();
+  applicationStore().reset();
+}

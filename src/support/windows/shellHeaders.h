@@ -1,0 +1,12 @@
+// The Windows headers that the support library needs, without the parts that clash with the standard library.
+#pragma once
+
+#ifndef NOMINMAX
+#define NOMINMAX
+#endif
+#ifndef WIN32_LEAN_AND_MEAN
+#define WIN32_LEAN_AND_MEAN
+#endif
+#include <windows.h>
+#include <shellapi.h>
+#include <shlobj.h>
