@@ -28,6 +28,8 @@ class xplImageLinux : public xplImageBase {
   xplDrawingToolsLinux& tools() { return m_tools; }
 
  private:
+  void hold(std::unique_ptr<Surface> bitmap);
+
   std::unique_ptr<Surface> m_bitmap;  // null until an init operation succeeds
   Surface* m_target = nullptr;        // the bitmap, or null
   xplDrawingToolsLinux m_tools;

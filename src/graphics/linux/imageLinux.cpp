@@ -1,0 +1,128 @@
+// Implements the image on a surface in memory.
+#include "graphics/linux/imageLinux.h"
+
+#include <new>
+#include <utility>
+
+#include "graphics/linux/bitmapLoader.h"
+#include "graphics/window.h"
+#include "support/log.h"
+
+namespace {
+
+// A filled surface; null where the size is below 1 or there is no memory for it.
+std::unique_ptr<Surface> makeSurface(int width, int height, xplColor color) {
+  if (width < 1 || height < 1) {
+    return nullptr;
+  }
+  try {
+    auto surface = std::make_unique<Surface>(width, height);
+    surface->fillRect({0, 0, width, height}, color);
+    return surface;
+  } catch (const std::bad_alloc&) {
+    return nullptr;
+  }
+}
+
+}  // namespace
+
+xplImageLinux::xplImageLinux() : m_tools(m_target) {}
+
+xplImageLinux::~xplImageLinux() = default;
+
+void xplImageLinux::hold(std::unique_ptr<Surface> bitmap) {
+  m_bitmap = std::move(bitmap);
+  m_target = m_bitmap.get();
+}
+
+void xplImageLinux::initWithSizeAndColor(int width, int height, xplColor color) {
+  if (m_bitmap) {
+    logError().add("xplImageWin.initWithSizeAndColor() called but m_GDIHBitmap not null");
+  }
+  auto bitmap = makeSurface(width, height, color);
+  if (!bitmap) {
+    logError().addf("xplImageLinux.initWithSizeAndColor() failed for w=%i, h=%i", width, height);
+    return;
+  }
+  hold(std::move(bitmap));
+}
+
+bool xplImageLinux::initWithResource(int id) {
+  if (m_bitmap) {
+    logError().addf("xplImageWin.initWithResource_impl(%i) called but hBitmap not null", id);
+    return false;
+  }
+  LoadedBitmap loaded = loadBitmapResource(id);
+  if (!loaded.surface) {
+    logError().addf("#4653b: image.initWithResource_impl failed:%i with windows error code:%u", id,
+                    static_cast<unsigned>(loaded.error));
+    return false;
+  }
+  hold(std::move(loaded.surface));
+  return true;
+}
+
+bool xplImageLinux::initWithFile_impl(const std::string& filename) {
+  if (m_bitmap) {
+    logError().addf("xplImageWin.initWithFile(%s) called but hBitmap not null", filename.c_str());
+    return false;
+  }
+  LoadedBitmap loaded = loadBitmapFile(filename);
+  if (!loaded.surface) {
+    logError().addf("#4653: image.loadFromFile failed:%s", filename.c_str());
+    logError().addf("        with windows error code:%u", static_cast<unsigned>(loaded.error));
+    return false;
+  }
+  hold(std::move(loaded.surface));
+  return true;
+}
+
+void xplImageLinux::amplifyPixel(int x, int y, float redFactor, float greenFactor, float blueFactor) {
+  m_tools.amplifyPixel(x, y, redFactor, greenFactor, blueFactor);
+}
+
+int xplImageLinux::getWidth() {
+  return m_bitmap ? m_bitmap->width() : 0;
+}
+
+int xplImageLinux::getHeight() {
+  return m_bitmap ? m_bitmap->height() : 0;
+}
+
+void xplImageLinux::drawText(int x, int y, const std::string& text, const xplTextDrawingInfo& info) {
+  m_tools.drawText(x, y, text, info);
+}
+
+void xplImageLinux::drawOnWindow(xplWindow& window, int x, int y) {
+  if (m_bitmap) {
+    xplDrawingToolsLinux(window.currentTarget())
+        .drawImage(x, y, m_target, getWidth(), getHeight(), m_transparentColor);
+  }
+}
+
+void xplImageLinux::resizeTo_impl(int width, int height) {
+  if (!m_bitmap) {
+    return;
+  }
+  auto resized = makeSurface(width, height, {});
+  if (!resized) {
+    logError().addf("xplImageLinux.resizeTo_impl() failed for w=%i, h=%i", width, height);
+    return;
+  }
+  resized->stretchFrom(*m_bitmap);
+  hold(std::move(resized));
+  logInfo().addf("xplImageWin.resizeTo_impl() exiting with new w=%i, new h=%i", width, height);
+}
+
+void xplImageLinux::crop_impl(int x, int y, int width, int height) {
+  if (!m_bitmap) {
+    return;
+  }
+  auto cropped = makeSurface(width, height, {});
+  if (!cropped) {
+    logError().addf("xplImageLinux.crop_impl() failed for w=%i, h=%i", width, height);
+    return;
+  }
+  cropped->blit(0, 0, *m_bitmap, x, y, width, height, std::nullopt);
+  hold(std::move(cropped));
+}
