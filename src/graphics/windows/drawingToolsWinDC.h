@@ -14,8 +14,8 @@ struct xplDeviceContextOf<RECT> {
 
 class xplDrawingToolsWinDC : public xpliDrawingTools<RECT> {
  public:
-  // Refers to a slot that holds the present target: changing the slot redirects every later call. The slot must
-  // outlive the tools.
+  // Refers to a slot that holds the present target: changing the slot redirects every later call. The slot
+  // must outlive the tools.
   explicit xplDrawingToolsWinDC(const HDC& target) : m_target(target) {}
   xplDrawingToolsWinDC(const HDC&& target) = delete;
 

@@ -8,4 +8,3 @@
 #define WIN32_LEAN_AND_MEAN
 #endif
 #include <windows.h>
-

@@ -26,10 +26,10 @@ class xplImageWin : public xplImageBase {
   xplDrawingToolsWinDC& tools() { return m_tools; }
 
  private:
-  HDC m_hDC = nullptr;               // owned
-  HBITMAP m_GDIHBitmap = nullptr;    // owned; null until an init operation succeeds
+  HDC m_hDC = nullptr;                 // owned
+  HBITMAP m_GDIHBitmap = nullptr;      // owned; null until an init operation succeeds
   HGDIOBJ m_previousBitmap = nullptr;  // put back before the context is deleted
-  int m_width = -1;                  // pixels; -1 until read from the bitmap
+  int m_width = -1;                    // pixels; -1 until read from the bitmap
   int m_height = -1;
   xplDrawingToolsWinDC m_tools;
 };

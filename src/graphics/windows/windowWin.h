@@ -33,11 +33,11 @@ class xplWindowWin : public xplWindowBase {
 
  private:
   xplWindowHandle m_handle;
-  RECT m_windowRect{};                 // screen coordinates, read once
-  HDC m_windowContext = nullptr;       // released by the destructor
-  HDC m_backBufferContext = nullptr;   // owned
+  RECT m_windowRect{};                   // screen coordinates, read once
+  HDC m_windowContext = nullptr;         // released by the destructor
+  HDC m_backBufferContext = nullptr;     // owned
   HBITMAP m_backBufferBitmap = nullptr;  // owned
-  HGDIOBJ m_previousBitmap = nullptr;  // put back before the context is deleted
+  HGDIOBJ m_previousBitmap = nullptr;    // put back before the context is deleted
   HDC m_target = nullptr;
   xplDrawingToolsWinDC m_tools;
 };
