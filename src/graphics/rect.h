@@ -1,6 +1,16 @@
 // A rectangle by its top-left corner and size; right and bottom are exclusive edges.
 #pragma once
 
+// What the edges of a rectangle of T are computed in: float edges are widened, as callers compare them in double.
+template <class T>
+struct xplEdgeOf {
+  using type = T;
+};
+template <>
+struct xplEdgeOf<float> {
+  using type = double;
+};
+
 // T is int (pixels) or float (pixels). The four operations are virtual because sprites carry them as their
 // first slots; there is no virtual destructor, so never delete through this class.
 template <class T>
@@ -9,8 +19,8 @@ class xplRect {
   xplRect() = default;
   xplRect(T aTop, T aLeft, T aWidth, T aHeight) : top(aTop), left(aLeft), width(aWidth), height(aHeight) {}
 
-  virtual T getBottom() const { return top + height; }
-  virtual T getRight() const { return left + width; }
+  virtual typename xplEdgeOf<T>::type getBottom() const { return top + height; }
+  virtual typename xplEdgeOf<T>::type getRight() const { return left + width; }
   virtual void setBottom(T bottom) { height = bottom - top; }  // top stays
   virtual void setRight(T right) { width = right - left; }     // left stays
 
