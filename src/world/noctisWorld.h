@@ -1,0 +1,67 @@
+// The night sky: everything in it, in its order, and one frame of its motion.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "graphics/rect.h"
+#include "graphics/window.h"
+#include "sprites/moveRestriction.h"
+#include "sprites/spriteDirector.h"
+#include "sprites/spriteText.h"
+#include "world/skyBackground.h"
+#include "world/starWithPixels.h"
+
+class TnoctisWorld {
+ public:
+  static constexpr std::int32_t previewMonitorId = -1;
+  static constexpr std::size_t starCount = 200;
+
+  // Borrows the window (null for none) and the monitor list (screen coordinates, the main monitor first);
+  // both must outlive the world. monitorId: 0 for the normal run, -1 for the preview. containerFolder: the
+  // program's folder.
+  TnoctisWorld(xplWindow* window, std::int32_t monitorId, const std::vector<xplRect<int>>& monitorList,
+               const std::string& containerFolder);
+  ~TnoctisWorld();
+  TnoctisWorld(const TnoctisWorld&) = delete;
+  TnoctisWorld& operator=(const TnoctisWorld&) = delete;
+
+  // Places everything and registers it in drawing order. Called once. An element that fails is logged and
+  // left out.
+  void initializeWorld();
+  // One frame of motion; seconds.
+  void update(float elapsedSec);
+  // Draws everything that is shown on the window's current target, back to front.
+  void draw();
+
+  const xplRect<int>& windowRect() const { return m_windowRect; }
+  const xplRect<int>& mainMonitorRect() const { return m_mainMonitorRect; }
+  const TorvSpriteText& bottomLine() const { return m_bottomLine; }
+  const cStarSpriteWithPixels& star(std::size_t index) const { return *m_stars[index]; }
+
+ private:
+  void createStars();
+  void takeOverWindow();
+  void initializeBackground();
+  void initializeStars();
+  void initializeBottomLine();
+
+  std::int32_t m_monitorId;
+  xplRect<int> m_windowRect;       // in the window's own coordinates
+  xplRect<int> m_mainMonitorRect;  // in screen coordinates
+  TorvMoveRestriction_BounceInsideRect m_bounceInsideMainMonitor{&m_mainMonitorRect};
+  TorvMoveRestriction_BounceInsideRect m_bounceInsideWindow{&m_windowRect};
+  TorvMoveRestriction_ContinueInsideRect m_continueInsideWindow{&m_windowRect};
+  TorvSpriteDirector m_spriteDirector;
+  TorvSpriteText m_bottomLine{"bottomLine"};
+  std::array<std::unique_ptr<cStarSpriteWithPixels>, starCount> m_stars;
+  xplColor m_backgroundColor{0, 0, 0};
+  std::vector<std::unique_ptr<cSkyBackground>> m_backgrounds;
+  xplWindow* m_window;
+  const std::vector<xplRect<int>>* m_monitorList;
+  cSkyBackground* m_skyBackground = nullptr;  // one of m_backgrounds
+  std::string m_containerFolder;
+};
