@@ -1,15 +1,18 @@
 // Paths, the folders by kind and the report: what is alike on every platform.
 #include "support/fileSystem.h"
 
+#include <memory>
+
 #include "support/fileSystemPlatform.h"
 #include "support/log.h"
 
 namespace {
 
-// Where all folder queries answer below; empty in a normal run.
+// Where all folder queries answer below; empty in a normal run. Never destroyed: destructors of other statics
+// may still log when the process ends.
 std::string& redirectedRoot() {
-  static std::string root;
-  return root;
+  static std::string* const root = std::make_unique<std::string>().release();
+  return *root;
 }
 
 std::size_t lastSeparator(std::string_view path) {
@@ -99,10 +102,14 @@ std::string xplFileSystemMini::applicationFolder() {
 }
 
 std::string xplFileSystemMini::joinPath(std::string_view folder, std::string_view name) {
-  while (!folder.empty() && (folder.back() == '/' || folder.back() == '\\')) {
+  // A folder that is not known must not turn into the root of the file system.
+  if (folder.empty()) {
+    return std::string(name);
+  }
+  while (!folder.empty() && isSeparator(folder.back())) {
     folder.remove_suffix(1);
   }
-  while (!name.empty() && (name.front() == '/' || name.front() == '\\')) {
+  while (!name.empty() && isSeparator(name.front())) {
     name.remove_prefix(1);
   }
   return std::string(folder) + separator() + std::string(name);
@@ -119,7 +126,7 @@ std::string xplFileSystemMini::folderOf(std::string_view path) {
 }
 
 bool xplFileSystemMini::copyFileIntoFolder(const std::string& path, const std::string& folder) {
-  if (folder.empty()) {
+  if (!fileExists(path) || !folderExists(folder)) {
     return false;
   }
   return fileSystemPlatform::copyFile(path, joinPath(folder, fileNameOf(path)));

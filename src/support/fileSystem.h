@@ -25,7 +25,7 @@ class xplFileSystemMini {
   static std::string applicationFileName();
   static std::string applicationFolder();
 
-  // Joins with exactly one separator between the two.
+  // Joins with exactly one separator between the two; an empty folder gives the name alone.
   static std::string joinPath(std::string_view folder, std::string_view name);
   // The part after the last '\' or '/'; the whole path where there is none.
   static std::string fileNameOf(std::string_view path);
@@ -40,10 +40,12 @@ class xplFileSystemMini {
   static bool emptyFile(const std::string& path);
   // Appends the text in the platform's text mode ("\n" becomes its line end). Follows no link.
   static bool appendToFile(const std::string& path, std::string_view text);
-  // Copies a file into a folder under its own name, replacing what is there.
+  // Copies a file into a folder under its own name, replacing what is there. False without such a folder.
   static bool copyFileIntoFolder(const std::string& path, const std::string& folder);
-  // Replaces the file whole or not at all: a new file beside it is written, flushed and renamed over it.
-  // On failure the old file is untouched, false is returned, and errorMessage holds the system's message.
+  // Replaces the file whole or not at all: a new file beside it is written, flushed and renamed over it. The
+  // bytes are written as they stand. A symbolic link stays, and what it leads to is replaced; a file keeps
+  // its mode. On failure the old file is untouched, false is returned, and errorMessage holds the system's
+  // message.
   static bool replaceFile(const std::string& path, std::string_view content, std::string& errorMessage);
 
   // A plain-text report of the folders, one a line.
@@ -55,7 +57,9 @@ class xplFileSystemMini {
 
   // The character that the platform puts between folders.
   static char separator();
-  // What ends a line of a text file on the platform.
+  // True for what may stand between folders in a path of this platform.
+  static bool isSeparator(char character);
+  // What ends a line of a text file on this platform.
   static const char* lineEnd();
 };
 

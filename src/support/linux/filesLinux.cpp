@@ -1,9 +1,7 @@
 // The file operations on Linux.
 #include <cerrno>
-#include <climits>
 #include <cstdio>
 #include <cstdlib>
-#include <cstring>
 #include <filesystem>
 #include <system_error>
 
@@ -13,77 +11,96 @@
 
 #include "support/fileSystem.h"
 #include "support/fileSystemPlatform.h"
+#include "support/linux/openFile.h"
 
 namespace {
 
-constexpr mode_t privateFileMode = 0600;
+constexpr mode_t ownerOnly = 0600;
+constexpr int longestLinkChain = 40;
 
-// A file descriptor that is closed with the object.
-class Descriptor {
- public:
-  explicit Descriptor(int value) : m_value(value) {}
-  ~Descriptor() {
-    if (m_value >= 0) {
-      close(m_value);
-    }
+// Opens a regular file for writing. No link is followed, and neither a pipe nor a device is waited for or
+// written.
+OpenFile openForWriting(const std::string& path, int flags) {
+  OpenFile file(open(path.c_str(),
+                     O_WRONLY | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC | flags, ownerOnly));
+  struct stat status {};
+  if (file.isOpen() && (fstat(file.descriptor(), &status) != 0 || !S_ISREG(status.st_mode))) {
+    file.close();
   }
-  Descriptor(const Descriptor&) = delete;
-  Descriptor& operator=(const Descriptor&) = delete;
-  bool isOpen() const { return m_value >= 0; }
-  int value() const { return m_value; }
+  return file;
+}
 
- private:
-  int m_value;
-};
+std::string messageOf(int errorNumber) {
+  return std::generic_category().message(errorNumber);
+}
 
-bool writeAll(int descriptor, std::string_view text) {
-  while (!text.empty()) {
-    const ssize_t written = write(descriptor, text.data(), text.size());
-    if (written < 0 && errno == EINTR) {
-      continue;
+// Where the links at the path lead, also where nothing is there yet; the path itself where it is no link.
+std::string endOfLinks(const std::string& path) {
+  std::filesystem::path place = path;
+  std::error_code error;
+  for (int i = 0; i < longestLinkChain && std::filesystem::is_symlink(place, error); ++i) {
+    const auto target = std::filesystem::read_symlink(place, error);
+    if (error) {
+      break;
     }
-    if (written <= 0) {
-      return false;
-    }
-    text.remove_prefix(static_cast<std::size_t>(written));
+    place = place.parent_path() / target;  // an absolute target takes the whole place
+  }
+  return place.string();
+}
+
+// The mode that the new file gets: that of the old one, or else the owner's alone.
+// False, with errno set, where what is there is no file that could be replaced.
+bool modeForReplacement(const std::string& path, mode_t& mode) {
+  struct stat status {};
+  if (lstat(path.c_str(), &status) != 0) {
+    mode = ownerOnly;
+    return errno == ENOENT;
+  }
+  mode = status.st_mode & 07777;
+  if (!S_ISREG(status.st_mode)) {
+    errno = S_ISDIR(status.st_mode) ? EISDIR : S_ISLNK(status.st_mode) ? ELOOP : EINVAL;
+    return false;
   }
   return true;
 }
 
-// The file that a link at the path leads to, so that a user's link to the file stays a link.
-std::string resolved(const std::string& path) {
-  char target[PATH_MAX];
-  return realpath(path.c_str(), target) != nullptr ? target : path;
+// Makes a rename last through a loss of power. Some file systems cannot; the file is whole all the same.
+void flushFolderOf(const std::string& path) {
+  const std::string folder = std::filesystem::path(path).parent_path().string();
+  const OpenFile directory(open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  if (directory.isOpen()) {
+    fsync(directory.descriptor());
+  }
 }
 
-bool isType(const std::string& path, mode_t type) {
-  struct stat status {};
-  return stat(path.c_str(), &status) == 0 && (status.st_mode & S_IFMT) == type;
-}
-
-// Writes the new file completely; on failure errno says why.
-bool writeNewFile(const std::string& path, std::string_view content, mode_t mode) {
-  unlink(path.c_str());
-  const Descriptor file(open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC | O_NOFOLLOW, mode));
-  return file.isOpen() && writeAll(file.value(), content) && fsync(file.value()) == 0;
+// Writes the new file and puts it in the old one's place; false, with errno set, where a step failed.
+bool writeAndRename(const std::string& path, std::string_view content, mode_t mode) {
+  std::string temporary = path + ".XXXXXX";
+  OpenFile file(mkostemp(temporary.data(), O_CLOEXEC));
+  if (!file.isOpen()) {
+    return false;
+  }
+  if (file.write(content) && fchmod(file.descriptor(), mode) == 0 && fsync(file.descriptor()) == 0 &&
+      file.close() && rename(temporary.c_str(), path.c_str()) == 0) {
+    flushFolderOf(path);
+    return true;
+  }
+  const int cause = errno;
+  unlink(temporary.c_str());
+  errno = cause;
+  return false;
 }
 
 }  // namespace
 
-char xplFileSystemMini::separator() {
-  return '/';
-}
-
-const char* xplFileSystemMini::lineEnd() {
-  return "\n";
-}
-
 bool xplFileSystemMini::fileExists(const std::string& path) {
-  return isType(path, S_IFREG);
+  struct stat status {};
+  return stat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode);
 }
 
 bool xplFileSystemMini::folderExists(const std::string& path) {
-  return isType(path, S_IFDIR);
+  struct stat status {};
+  return stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
 }
 
 bool xplFileSystemMini::createFolder(const std::string& path) {
@@ -91,36 +108,45 @@ bool xplFileSystemMini::createFolder(const std::string& path) {
 }
 
 bool xplFileSystemMini::emptyFile(const std::string& path) {
-  return Descriptor(
-             open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC | O_NOFOLLOW, privateFileMode))
-      .isOpen();
+  OpenFile file = openForWriting(path, 0);
+  return file.isOpen() && ftruncate(file.descriptor(), 0) == 0 && file.close();
 }
 
 bool xplFileSystemMini::appendToFile(const std::string& path, std::string_view text) {
-  const Descriptor file(open(
-      path.c_str(), O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK, privateFileMode));
-  return file.isOpen() && writeAll(file.value(), text);
-}
-
-bool xplFileSystemMini::replaceFile(const std::string& path, std::string_view content,
-                                    std::string& errorMessage) {
-  const std::string target = resolved(path);
-  const std::string next = target + ".new";
-  struct stat old {};
-  const mode_t mode = stat(target.c_str(), &old) == 0 ? old.st_mode & 07777 : privateFileMode;
-  if (writeNewFile(next, content, mode) && std::rename(next.c_str(), target.c_str()) == 0) {
-    return true;
-  }
-  errorMessage = std::generic_category().message(errno);
-  unlink(next.c_str());
-  return false;
+  OpenFile file = openForWriting(path, O_APPEND);
+  return file.isOpen() && file.write(text) && file.close();
 }
 
 bool fileSystemPlatform::copyFile(const std::string& from, const std::string& to) {
   // A link at the destination is replaced, not followed.
   std::error_code error;
-  std::filesystem::remove(to, error);
+  if (std::filesystem::is_symlink(to, error)) {
+    std::filesystem::remove(to, error);
+  }
   return std::filesystem::copy_file(from, to, std::filesystem::copy_options::overwrite_existing, error);
+}
+
+bool xplFileSystemMini::replaceFile(const std::string& path, std::string_view content,
+                                    std::string& errorMessage) {
+  const std::string target = endOfLinks(path);
+  mode_t mode = ownerOnly;
+  if (!modeForReplacement(target, mode) || !writeAndRename(target, content, mode)) {
+    errorMessage = messageOf(errno);
+    return false;
+  }
+  return true;
+}
+
+char xplFileSystemMini::separator() {
+  return '/';
+}
+
+bool xplFileSystemMini::isSeparator(char character) {
+  return character == '/';
+}
+
+const char* xplFileSystemMini::lineEnd() {
+  return "\n";
 }
 
 void xplWriteToDebugger(const char* text) {

@@ -1,16 +1,13 @@
 // The file operations on Windows.
-#include <cstdio>
-#include <memory>
+#include <array>
+#include <atomic>
+#include <string>
 
 #include "support/fileSystem.h"
+#include "support/fileSystemPlatform.h"
 #include "support/windows/shellHeaders.h"
 
 namespace {
-
-struct FileCloser {
-  void operator()(std::FILE* file) const { std::fclose(file); }
-};
-using File = std::unique_ptr<std::FILE, FileCloser>;
 
 // A handle that is closed with the object.
 class Handle {
@@ -53,19 +50,86 @@ bool writeAll(HANDLE file, std::string_view content) {
     }
     content.remove_prefix(written);
   }
-  return FlushFileBuffers(file) != FALSE;
+  return true;
 }
 
+// Opens a file for writing, made where there was none. A link is opened itself and then refused.
+HANDLE openForWriting(const std::string& path, DWORD access) {
+  const HANDLE file =
+      CreateFileA(path.c_str(), access, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                  OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL | FILE_FLAG_OPEN_REPARSE_POINT, nullptr);
+  BY_HANDLE_FILE_INFORMATION information{};
+  if (file != INVALID_HANDLE_VALUE && (GetFileInformationByHandle(file, &information) == FALSE ||
+                                       (information.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0)) {
+    CloseHandle(file);
+    return INVALID_HANDLE_VALUE;
+  }
+  return file;
+}
+
+// The file that a link at the path leads to; the path itself where it is no link or leads nowhere.
+std::string endOfLinks(const std::string& path) {
+  const DWORD attributes = GetFileAttributesA(path.c_str());
+  if (attributes == INVALID_FILE_ATTRIBUTES || (attributes & FILE_ATTRIBUTE_REPARSE_POINT) == 0) {
+    return path;
+  }
+  const Handle file(CreateFileA(path.c_str(), FILE_READ_ATTRIBUTES,
+                                FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                                OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr));
+  std::array<char, 32768> target{};
+  const DWORD length = file.isOpen() ? GetFinalPathNameByHandleA(file.value(), target.data(),
+                                                                 static_cast<DWORD>(target.size()), 0)
+                                     : 0;
+  return length > 0 && length < target.size() ? target.data() : path;
+}
+
+// Writes a file that is not there yet; on failure the last error says why, and nothing is left behind.
 bool writeNewFile(const std::string& path, std::string_view content) {
-  const Handle file(
-      CreateFileA(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
-  return file.isOpen() && writeAll(file.value(), content);
+  DWORD error = ERROR_SUCCESS;
+  {
+    const Handle file(
+        CreateFileA(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr));
+    if (!file.isOpen()) {
+      return false;
+    }
+    if (writeAll(file.value(), content) && FlushFileBuffers(file.value()) != FALSE) {
+      return true;
+    }
+    error = GetLastError();
+  }
+  DeleteFileA(path.c_str());
+  SetLastError(error);
+  return false;
+}
+
+// A name beside the path that no other process and no other call of this one takes. One that a process of the
+// same number left behind when it crashed is removed.
+std::string newNameBeside(const std::string& path) {
+  static std::atomic<unsigned> counter{0};
+  const std::string name = path + "." + std::to_string(GetCurrentProcessId()) + "-" +
+                           std::to_string(counter.fetch_add(1)) + ".new";
+  DeleteFileA(name.c_str());
+  return name;
+}
+
+// A text with the line ends of a text file.
+std::string withLineEnds(std::string_view text) {
+  std::string result;
+  result.reserve(text.size() + 2);
+  for (const char character : text) {
+    result += character == '\n' ? "\r\n" : std::string(1, character);
+  }
+  return result;
 }
 
 }  // namespace
 
 char xplFileSystemMini::separator() {
   return '\\';
+}
+
+bool xplFileSystemMini::isSeparator(char character) {
+  return character == '\\' || character == '/';
 }
 
 const char* xplFileSystemMini::lineEnd() {
@@ -87,24 +151,33 @@ bool xplFileSystemMini::createFolder(const std::string& path) {
 }
 
 bool xplFileSystemMini::emptyFile(const std::string& path) {
-  return File(std::fopen(path.c_str(), "wb")) != nullptr;
+  const Handle file(openForWriting(path, GENERIC_WRITE));
+  return file.isOpen() && SetEndOfFile(file.value()) != FALSE;
 }
 
 bool xplFileSystemMini::appendToFile(const std::string& path, std::string_view text) {
-  const File file(std::fopen(path.c_str(), "at"));
-  return file != nullptr && std::fwrite(text.data(), 1, text.size(), file.get()) == text.size();
+  const Handle file(openForWriting(path, FILE_APPEND_DATA | SYNCHRONIZE));
+  return file.isOpen() && writeAll(file.value(), withLineEnds(text));
 }
 
 bool xplFileSystemMini::replaceFile(const std::string& path, std::string_view content,
                                     std::string& errorMessage) {
-  const std::string next = path + ".new";
-  if (writeNewFile(next, content) &&
-      MoveFileExA(next.c_str(), path.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != FALSE) {
+  const std::string target = endOfLinks(path);
+  const std::string next = newNameBeside(target);
+  const bool written = writeNewFile(next, content);
+  if (written && MoveFileExA(next.c_str(), target.c_str(),
+                             MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != FALSE) {
     return true;
   }
   errorMessage = messageOf(GetLastError());
-  DeleteFileA(next.c_str());
+  if (written) {
+    DeleteFileA(next.c_str());
+  }
   return false;
+}
+
+bool fileSystemPlatform::copyFile(const std::string& from, const std::string& to) {
+  return CopyFileA(from.c_str(), to.c_str(), FALSE) != FALSE;
 }
 
 void xplWriteToDebugger(const char* text) {

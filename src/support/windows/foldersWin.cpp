@@ -48,8 +48,4 @@ std::string applicationFullPath() {
   return length > 0 && length < path.size() ? path.data() : "";
 }
 
-bool copyFile(const std::string& from, const std::string& to) {
-  return CopyFileA(from.c_str(), to.c_str(), FALSE) != FALSE;
-}
-
 }  // namespace fileSystemPlatform
