@@ -1,12 +1,13 @@
 // The settings store: where its file lies, when it is read and saved.
 #include "support/settings.h"
 
+#include <array>
 #include <charconv>
 #include <fstream>
-#include <iterator>
 #include <locale>
 #include <memory>
 #include <sstream>
+#include <utility>
 
 #include "support/assertion.h"
 #include "support/fileSystem.h"
@@ -32,6 +33,20 @@ std::string makeCompanyFolder(const std::string& base) {
     logError().add("During xplSettings constructor could not create folder:" + folder);
   }
   return folder;
+}
+
+// The bytes of a file; nothing where it cannot be opened or read to its end.
+std::optional<std::string> readWhole(const std::string& path) {
+  std::ifstream file(path, std::ios::binary);
+  if (!file) {
+    return std::nullopt;
+  }
+  std::string content;
+  std::array<char, 65536> piece{};
+  while (file.read(piece.data(), piece.size()) || file.gcount() > 0) {
+    content.append(piece.data(), static_cast<std::size_t>(file.gcount()));
+  }
+  return file.bad() ? std::nullopt : std::optional(std::move(content));
 }
 
 // The whole text as a number; nothing where it is none or out of range.
@@ -98,31 +113,39 @@ bool xplSettings::load() {
   if (!xplFileSystemMini::fileExists(m_filename)) {
     return true;
   }
-  std::ifstream file(m_filename, std::ios::binary);
-  if (!file) {
+  std::optional<std::string> content = readWhole(m_filename);
+  if (!content) {
     m_fileIsUnread = true;
     logError().add("#8551: Could not open file:" + m_filename);
     return false;
   }
   m_values.clear();
-  parseSettings({std::istreambuf_iterator<char>(file), {}}, m_values);
+  parseSettings(std::move(*content), m_values);
   return true;
 }
 
 bool xplSettings::save() {
   std::string reason = "the file is there but could not be read, and is left as it is";
-  if (!m_fileIsUnread && xplFileSystemMini::replaceFile(
-                             m_filename, formatSettings(m_values, xplFileSystemMini::lineEnd()), reason)) {
+  const bool wouldDestroy = m_fileIsUnread && xplFileSystemMini::fileExists(m_filename);
+  if (!wouldDestroy && xplFileSystemMini::replaceFile(
+                           m_filename, formatSettings(m_values, xplFileSystemMini::lineEnd()), reason)) {
+    m_fileIsUnread = false;
     return true;
   }
   logError().add("Error saving file " + m_filename + " Error message:" + reason);
   return false;
 }
 
+void xplSettings::saveOrReport() {
+  if (!save()) {
+    logError().add("Error #1352c: saving xplSettings to file:" + m_filename);
+  }
+}
+
 void xplSettings::set(const std::string& key, const std::string& value) {
   m_values[key] = value;
-  if (saveOnEveryChange && !save()) {
-    logError().add("Error #1352c: saving xplSettings to file:" + m_filename);
+  if (saveOnEveryChange) {
+    saveOrReport();
   }
 }
 
@@ -148,8 +171,8 @@ xplSettings::Batch::Batch(xplSettings& store) : m_store(store), m_savedBefore(st
 
 xplSettings::Batch::~Batch() {
   m_store.saveOnEveryChange = m_savedBefore;
-  if (m_savedBefore && !m_store.save()) {
-    logError().add("Error #1352c: saving xplSettings to file:" + m_store.m_filename);
+  if (m_savedBefore) {
+    m_store.saveOrReport();
   }
 }
 

@@ -35,11 +35,16 @@ class xplSettings {
   int getInt(const std::string& key, int defaultValue) const;
   std::int64_t getInt64(const std::string& key, std::int64_t defaultValue) const;
 
+  // The file's full path.
   const std::string& filename() const { return m_filename; }
 
-  // While one lives, changes stay in memory; when it goes they are saved together.
+  // When set, the file always holds the last values; when not, the destructor saves.
+  bool saveOnEveryChange = true;
+
+  // Gathers the changes of its lifetime into one save, at its end, where each would have been saved alone.
   class Batch {
    public:
+    // Borrows the store, which must outlive the batch. Batches nest: the outermost saves.
     explicit Batch(xplSettings& store);
     ~Batch();
     Batch(const Batch&) = delete;
@@ -50,15 +55,15 @@ class xplSettings {
     bool m_savedBefore;
   };
 
-  bool saveOnEveryChange = true;
-
  private:
   bool load();
   bool save();
+  void saveOrReport();
 
   std::map<std::string, std::string> m_values;
   std::string m_filename;
-  bool m_fileIsUnread = false;  // there is a file whose content we do not know; saving would destroy it
+  // Set when there was a file that could not be read: saving would destroy what it holds.
+  bool m_fileIsUnread = false;
 };
 
 // The two stores of the process, opened by their first user.

@@ -1,4 +1,4 @@
-// The application object on Linux.
+// Implements the application object on Linux.
 #include "support/linux/applicationLinux.h"
 
 #include <utility>
@@ -10,17 +10,20 @@ std::vector<std::string>& canonicalArguments() {
   return arguments;
 }
 
-std::string joined(const std::vector<std::string>& arguments) {
+// One line of all arguments, separated by blanks; those that hold a blank themselves, or nothing, in double
+// quotes.
+std::string lineOf(const std::vector<std::string>& arguments) {
   std::string line;
-  for (const auto& argument : arguments) {
-    line += (line.empty() ? "" : " ") + argument;
+  for (const std::string& argument : arguments) {
+    const bool quote = argument.empty() || argument.find_first_of(" \t") != std::string::npos;
+    line += (line.empty() ? "" : " ") + (quote ? '"' + argument + '"' : argument);
   }
   return line;
 }
 
 }  // namespace
 
-xplAppLinux::xplAppLinux() : xplAppBase(joined(canonicalArguments()), canonicalArguments()) {}
+xplAppLinux::xplAppLinux() : xplAppBase(lineOf(canonicalArguments()), canonicalArguments()) {}
 
 void xplAppLinux::setArguments(std::vector<std::string> arguments) {
   canonicalArguments() = std::move(arguments);

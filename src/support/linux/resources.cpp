@@ -1,21 +1,17 @@
 // Finds resources in the table that the assembler put into the program.
 #include "support/linux/resources.h"
 
-namespace {
-
-struct Entry {
+struct LunariaResource {
   const char* type;  // null ends the table
   std::uint64_t id;
   const std::uint8_t* data;
   std::uint64_t size;  // bytes
 };
 
-}  // namespace
-
-extern "C" const Entry lunariaResourceTable[];
+extern "C" const LunariaResource lunariaResourceTable[];
 
 std::optional<std::span<const std::uint8_t>> findResource(std::string_view type, int id) {
-  for (const Entry* entry = lunariaResourceTable; entry->type != nullptr; ++entry) {
+  for (const LunariaResource* entry = lunariaResourceTable; entry->type != nullptr; ++entry) {
     if (type == entry->type && static_cast<std::int64_t>(entry->id) == id) {
       return std::span(entry->data, entry->size);
     }
