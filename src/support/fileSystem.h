@@ -63,5 +63,5 @@ class xplFileSystemMini {
   static const char* lineEnd();
 };
 
-// The text that goes to a debugger: standard error on Linux.
+// The text that goes to a debugger: standard error on Linux, where LUNARIA_DEBUG is set.
 void xplWriteToDebugger(const char* text);
