@@ -1,0 +1,33 @@
+#!/usr/bin/env bash
+# The Debian packages that Lunaria is built and tested with, and how they are installed; read by ./run and ./test.
+
+build_packages=(g++ cmake ninja-build pkg-config libxcb1-dev libxcb-shm0-dev libxcb-randr0-dev libxcb-xfixes0-dev
+  libfreetype-dev libfontconfig-dev fonts-liberation libsdl2-dev libstb-dev)
+test_packages=(googletest libbenchmark-dev g++-mingw-w64-x86-64-posix wine wine64 xvfb xdotool x11-utils
+  x11-xserver-utils imagemagick clang-format clang-tidy procps)
+
+# missing_packages PACKAGE...: prints those that are not installed.
+missing_packages() {
+  local package
+  for package in "$@"; do
+    dpkg-query -W -f '${Status}' "$package" 2>/dev/null | grep -q 'install ok installed' || echo "$package"
+  done
+}
+
+# install_missing PACKAGE...: installs what is missing with the rights that there are, or names it and fails.
+install_missing() {
+  local missing as_root=()
+  mapfile -t missing < <(missing_packages "$@")
+  [ ${#missing[@]} -eq 0 ] && return 0
+  if [ "$(id -u)" -ne 0 ]; then
+    if ! command -v sudo >/dev/null || ! sudo -n true 2>/dev/null; then
+      echo "These packages are missing: ${missing[*]}" >&2
+      echo "Install them with: sudo apt-get install ${missing[*]}" >&2
+      return 1
+    fi
+    as_root=(sudo)
+  fi
+  echo "Installing ${missing[*]}"
+  "${as_root[@]}" apt-get update -qq
+  DEBIAN_FRONTEND=noninteractive "${as_root[@]}" apt-get install -y -qq --no-install-recommends "${missing[@]}"
+}

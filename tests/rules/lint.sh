@@ -1,0 +1,5 @@
+#!/usr/bin/env bash
+# clang-tidy finds nothing in the sources that are built for Linux.
+set -euo pipefail
+cd "$(dirname "$0")/../.."
+git ls-files 'src/*.cpp' | grep -v /windows/ | xargs -P "$(nproc)" -n 4 clang-tidy --quiet -p build/linux
