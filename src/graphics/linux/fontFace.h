@@ -11,15 +11,19 @@
 
 // The picture of one character.
 struct Glyph {
-  int advance = 0;  // pixels to the next character
-  int left = 0;     // pixels from the pen to the picture's left edge
-  int top = 0;      // pixels from the baseline up to the picture's top edge
+  // The level of coverage of a pixel that lies wholly inside the outline.
+  static constexpr std::uint8_t solid = 16;
+
+  int advance = 0;          // pixels to the next character
+  int measuredAdvance = 0;  // pixels that count when a line is measured
+  int left = 0;             // pixels from the pen to the picture's left edge
+  int top = 0;              // pixels from the baseline up to the picture's top edge
   int width = 0;
   int height = 0;
   bool antialiased = false;
   std::size_t pitch = 0;  // bytes to a row
   std::vector<std::uint8_t>
-      bits;  // antialiased: a byte a pixel, 0 to 255; else a bit a pixel, leftmost highest
+      bits;  // antialiased: a level of coverage a byte, 0 to solid; else a bit a pixel, leftmost highest
 };
 
 // Vertical measures of a face, in pixels.
@@ -55,6 +59,8 @@ class FontFace {
   // The em height in pixels, in [1, 4096], of all that follows; false where the face cannot be had at it.
   bool setHeight(int pixels);
   FontMetrics metrics() const;
+  // The em height at which a line is nearest to this many pixels (0 or more) high.
+  int heightForLineHeight(int pixels) const;
   // 0 where the face lacks the character.
   unsigned glyphIndexOf(char32_t character) const;
   // Index 0 is the picture of a missing character. A glyph that cannot be rendered comes out empty.

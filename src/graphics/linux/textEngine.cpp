@@ -2,6 +2,8 @@
 #include "graphics/linux/textEngine.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <limits>
 #include <vector>
 
 #include "graphics/linux/glyphPainter.h"
@@ -10,30 +12,39 @@
 
 namespace {
 
-// What a font of height 0 is drawn with, as GDI does.
-constexpr int defaultCharacterHeight = 12;
+// A text without a height has lines of this many pixels, as with GDI.
+constexpr int defaultLineHeight = 16;
 // Larger characters would cover a whole screen, and take memory by the square of their height.
 constexpr int maxCharacterHeight = 4096;
 
-// The characters of a text up to its first zero byte, by lines: "\n" and "\r\n" end one.
+// Drawn as the face's picture of a missing character, as GDI does: tabs too are not expanded.
+bool isControl(char32_t character) {
+  return character < U' ' || character == 0x7F;
+}
+
+bool endsLine(char32_t character) {
+  return character == U'\n' || character == U'\r';
+}
+
+// The characters of a text up to its first zero byte, by lines. A line feed, a carriage return, or one of
+// each in either order ends a line; no line begins behind the last one's end, so an empty text has no line at
+// all.
 std::vector<std::u32string> linesOf(const std::string& text) {
   const std::u32string characters = decodeUtf8(text.c_str());
-  std::vector<std::u32string> lines(1);
-  for (std::size_t i = 0; i < characters.size(); ++i) {
-    if (characters[i] == U'\n') {
-      lines.emplace_back();
-    } else if (characters[i] != U'\r' || i + 1 == characters.size() || characters[i + 1] != U'\n') {
-      lines.back().push_back(characters[i]);
-    }
+  std::vector<std::u32string> lines;
+  for (auto start = characters.begin(); start != characters.end();) {
+    const auto end = std::find_if(start, characters.end(), endsLine);
+    lines.emplace_back(start, end);
+    const bool isEndOfPair =
+        end != characters.end() && end + 1 != characters.end() && endsLine(end[1]) && end[1] != end[0];
+    start = end == characters.end() ? end : end + (isEndOfPair ? 2 : 1);
   }
   return lines;
 }
 
-int leftEdge(int x, int width, int alignment) {
-  if (alignment == xplTextDrawingInfo::alignRight) {
-    return x - width;
-  }
-  return alignment == xplTextDrawingInfo::alignCentered ? (2 * x - width) / 2 : x;
+int clampedToInt(std::int64_t value) {
+  return static_cast<int>(
+      std::clamp<std::int64_t>(value, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()));
 }
 
 }  // namespace
@@ -41,8 +52,7 @@ int leftEdge(int x, int width, int alignment) {
 bool TextEngine::select(const TextStyle& style, Font& font) {
   font.request = {style.fontName, style.thin};
   font.face = m_fonts.faceFor(font.request);
-  font.height = style.characterHeight == 0 ? defaultCharacterHeight
-                                           : std::clamp(style.characterHeight, 1, maxCharacterHeight);
+  font.height = heightOf(font.face, style.characterHeight);
   font.antialiased = style.antialiased;
   font.spacing = style.characterSpacing;
   if (!findMetrics(font)) {
@@ -50,6 +60,17 @@ bool TextEngine::select(const TextStyle& style, Font& font) {
     return false;
   }
   return true;
+}
+
+int TextEngine::heightOf(int face, int characterHeight) {
+  int height = characterHeight;
+  if (characterHeight <= 0) {
+    const int lineHeight =
+        characterHeight == 0 ? defaultLineHeight : -std::max(characterHeight, -maxCharacterHeight);
+    const FontFace* open = m_fonts.open(face);
+    height = open != nullptr ? open->heightForLineHeight(lineHeight) : lineHeight;
+  }
+  return std::clamp(height, 1, maxCharacterHeight);
 }
 
 bool TextEngine::findMetrics(Font& font) {
@@ -92,7 +113,8 @@ const Glyph& TextEngine::glyphOf(const Font& font, char32_t character) {
   if (const unsigned index = own == nullptr ? 0 : own->glyphIndexOf(character)) {
     return glyphOf(font, font.face, index);
   }
-  const int other = m_fonts.faceWithCharacter(font.request, character);
+  const int other =
+      isControl(character) ? FontCache::noFace : m_fonts.faceWithCharacter(font.request, character);
   const FontFace* fallback = m_fonts.open(other);
   if (const unsigned index = fallback == nullptr ? 0 : fallback->glyphIndexOf(character)) {
     return glyphOf(font, other, index);
@@ -100,25 +122,48 @@ const Glyph& TextEngine::glyphOf(const Font& font, char32_t character) {
   return glyphOf(font, font.face, 0);
 }
 
-int TextEngine::lineWidth(const Font& font, const std::u32string& line) {
-  int width = 0;
+std::int64_t TextEngine::lineWidth(const Font& font, const std::u32string& line) {
+  std::int64_t width = 0;
   for (const char32_t character : line) {
-    width += glyphOf(font, character).advance + font.spacing;
+    width += std::int64_t{glyphOf(font, character).measuredAdvance} + font.spacing;
   }
   return width;
 }
 
+std::int64_t TextEngine::leftEdge(const Font& font, const std::u32string& line, int x, int alignment) {
+  if (alignment == xplTextDrawingInfo::alignRight) {
+    return x - lineWidth(font, line);
+  }
+  if (alignment == xplTextDrawingInfo::alignCentered) {
+    return (2 * std::int64_t{x} - lineWidth(font, line)) / 2;
+  }
+  return x;
+}
+
+void TextEngine::drawLine(Surface& surface, std::int64_t pen, std::int64_t baseline, const Font& font,
+                          const std::u32string& line, xplColor color) {
+  for (const char32_t character : line) {
+    const Glyph& glyph = glyphOf(font, character);
+    paintGlyph(surface, pen, baseline, glyph, color);
+    // Deliberate: lines are measured by other advances than they are drawn with, and only spaced ones are
+    // drawn by those too. GDI does so, and centred and right-aligned texts stand where it puts them because
+    // of this.
+    pen += font.spacing == 0 ? glyph.advance : std::int64_t{glyph.measuredAdvance} + font.spacing;
+  }
+}
+
 TextSize TextEngine::measure(const std::string& text, const TextStyle& style) {
   Font font;
-  TextSize size;
   if (!select(style, font)) {
-    return size;
+    return {};
   }
+  std::int64_t width = 0;
+  std::int64_t height = 0;
   for (const std::u32string& line : linesOf(text)) {
-    size.width = std::max(size.width, lineWidth(font, line));
-    size.height += font.metrics.lineHeight();
+    width = std::max(width, lineWidth(font, line));
+    height += font.metrics.lineHeight();
   }
-  return size;
+  return {clampedToInt(width), clampedToInt(height)};
 }
 
 void TextEngine::draw(Surface& surface, int x, int y, const std::string& text, const TextStyle& style,
@@ -127,14 +172,9 @@ void TextEngine::draw(Surface& surface, int x, int y, const std::string& text, c
   if (!select(style, font)) {
     return;
   }
-  int baseline = y + font.metrics.ascent;
+  std::int64_t baseline = std::int64_t{y} + font.metrics.ascent;
   for (const std::u32string& line : linesOf(text)) {
-    int pen = leftEdge(x, lineWidth(font, line), alignment);
-    for (const char32_t character : line) {
-      const Glyph& glyph = glyphOf(font, character);
-      paintGlyph(surface, pen, baseline, glyph, color);
-      pen += glyph.advance + font.spacing;
-    }
+    drawLine(surface, leftEdge(font, line, x, alignment), baseline, font, line, color);
     baseline += font.metrics.lineHeight();
   }
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <map>
 #include <string>
 #include <utility>
@@ -35,10 +36,15 @@ class TextEngine {
 
   // False (and, once, an error entry) where there is no font.
   bool select(const TextStyle& style, Font& font);
+  // The em height for a TextStyle's character height.
+  int heightOf(int face, int characterHeight);
   bool findMetrics(Font& font);
   const Glyph& glyphOf(const Font& font, char32_t character);
   const Glyph& glyphOf(const Font& font, int face, unsigned glyphIndex);
-  int lineWidth(const Font& font, const std::u32string& line);
+  std::int64_t lineWidth(const Font& font, const std::u32string& line);
+  std::int64_t leftEdge(const Font& font, const std::u32string& line, int x, int alignment);
+  void drawLine(Surface& surface, std::int64_t pen, std::int64_t baseline, const Font& font,
+                const std::u32string& line, xplColor color);
   void reportMissingFont(const std::string& faceName);
 
   FontCache m_fonts;

@@ -9,7 +9,8 @@
 // What one text is drawn with, after all defaults have been applied.
 struct TextStyle {
   std::string fontName;
-  int characterHeight = 0;   // em height in pixels; 0 asks for the platform's default height
+  // Em height in pixels. A negative one asks for lines of that many pixels, 0 for lines of 16, as GDI does.
+  int characterHeight = 0;
   int characterSpacing = 0;  // extra pixels after each character
   bool antialiased = true;
   bool thin = false;
