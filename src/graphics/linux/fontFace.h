@@ -22,8 +22,8 @@ struct Glyph {
   int height = 0;
   bool antialiased = false;
   std::size_t pitch = 0;  // bytes to a row
-  std::vector<std::uint8_t>
-      bits;  // antialiased: a level of coverage a byte, 0 to solid; else a bit a pixel, leftmost highest
+  // Antialiased: a level of coverage (0 to solid) a byte; else a pixel a bit, the leftmost in the highest.
+  std::vector<std::uint8_t> bits;
 };
 
 // Vertical measures of a face, in pixels.

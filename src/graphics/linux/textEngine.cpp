@@ -42,6 +42,12 @@ std::vector<std::u32string> linesOf(const std::string& text) {
   return lines;
 }
 
+// Lines are measured by other advances than they are drawn with; only spaced lines are drawn by those too. It
+// is GDI's way, and centred and right-aligned texts stand where GDI puts them because of it.
+std::int64_t stepAfter(const Glyph& glyph, int spacing) {
+  return spacing == 0 ? glyph.advance : std::int64_t{glyph.measuredAdvance} + spacing;
+}
+
 int clampedToInt(std::int64_t value) {
   return static_cast<int>(
       std::clamp<std::int64_t>(value, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()));
@@ -145,10 +151,7 @@ void TextEngine::drawLine(Surface& surface, std::int64_t pen, std::int64_t basel
   for (const char32_t character : line) {
     const Glyph& glyph = glyphOf(font, character);
     paintGlyph(surface, pen, baseline, glyph, color);
-    // Deliberate: lines are measured by other advances than they are drawn with, and only spaced ones are
-    // drawn by those too. GDI does so, and centred and right-aligned texts stand where it puts them because
-    // of this.
-    pen += font.spacing == 0 ? glyph.advance : std::int64_t{glyph.measuredAdvance} + font.spacing;
+    pen += stepAfter(glyph, font.spacing);
   }
 }
 
