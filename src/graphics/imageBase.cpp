@@ -1,7 +1,10 @@
 // Implements the image's operations that are made of others.
 #include "graphics/imageBase.h"
 
+#include <cstdint>
 #include <limits>
+
+#include "support/log.h"
 
 namespace {
 
@@ -17,7 +20,20 @@ int truncatedProduct(int size, float factor) {
   return product == product ? static_cast<int>(product) : 0;
 }
 
+// The longest side of a display, and 1 GiB of pixels.
+constexpr int maxSide = 32767;
+constexpr std::int64_t maxPixels = std::int64_t{1} << 28;
+
 }  // namespace
+
+bool xplImageBase::isAllowedSize(int width, int height) {
+  return width >= 1 && height >= 1 && width <= maxSide && height <= maxSide &&
+         std::int64_t{width} * height <= maxPixels;
+}
+
+void xplImageBase::reportNoBitmap(const char* operation, int width, int height) {
+  logError().addf("xplImageWin.%s() got no bitmap of w=%i, h=%i", operation, width, height);
+}
 
 void xplImageBase::scaleBy(float factor) {
   const int width = truncatedProduct(getWidth(), factor);

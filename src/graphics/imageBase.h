@@ -42,5 +42,10 @@ class xplImageBase {
   virtual bool initWithFile_impl(const std::string& filename) = 0;
 
  protected:
+  // Whether a picture may have this size (pixels): at least 1 x 1, and no more than a display can show.
+  static bool isAllowedSize(int width, int height);
+  // Writes the error entry of an operation that got no bitmap.
+  static void reportNoBitmap(const char* operation, int width, int height);
+
   std::optional<xplColor> m_transparentColor;
 };

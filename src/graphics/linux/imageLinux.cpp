@@ -10,11 +10,8 @@
 
 namespace {
 
-// A filled surface; null where the size is below 1 or there is no memory for it.
+// A filled surface; null where there is no memory for it.
 std::unique_ptr<Surface> makeSurface(int width, int height, xplColor color) {
-  if (width < 1 || height < 1) {
-    return nullptr;
-  }
   try {
     auto surface = std::make_unique<Surface>(width, height);
     surface->fillRect({0, 0, width, height}, color);
@@ -39,9 +36,9 @@ void xplImageLinux::initWithSizeAndColor(int width, int height, xplColor color) 
   if (m_bitmap) {
     logError().add("xplImageWin.initWithSizeAndColor() called but m_GDIHBitmap not null");
   }
-  auto bitmap = makeSurface(width, height, color);
+  auto bitmap = isAllowedSize(width, height) ? makeSurface(width, height, color) : nullptr;
   if (!bitmap) {
-    logError().addf("xplImageLinux.initWithSizeAndColor() failed for w=%i, h=%i", width, height);
+    reportNoBitmap("initWithSizeAndColor", width, height);
     return;
   }
   hold(std::move(bitmap));
@@ -104,9 +101,9 @@ void xplImageLinux::resizeTo_impl(int width, int height) {
   if (!m_bitmap) {
     return;
   }
-  auto resized = makeSurface(width, height, {});
+  auto resized = isAllowedSize(width, height) ? makeSurface(width, height, {}) : nullptr;
   if (!resized) {
-    logError().addf("xplImageLinux.resizeTo_impl() failed for w=%i, h=%i", width, height);
+    reportNoBitmap("resizeTo_impl", width, height);
     return;
   }
   resized->stretchFrom(*m_bitmap);
@@ -118,9 +115,9 @@ void xplImageLinux::crop_impl(int x, int y, int width, int height) {
   if (!m_bitmap) {
     return;
   }
-  auto cropped = makeSurface(width, height, {});
+  auto cropped = isAllowedSize(width, height) ? makeSurface(width, height, {}) : nullptr;
   if (!cropped) {
-    logError().addf("xplImageLinux.crop_impl() failed for w=%i, h=%i", width, height);
+    reportNoBitmap("crop_impl", width, height);
     return;
   }
   cropped->blit(0, 0, *m_bitmap, x, y, width, height, std::nullopt);

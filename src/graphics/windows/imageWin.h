@@ -26,6 +26,12 @@ class xplImageWin : public xplImageBase {
   xplDrawingToolsWinDC& tools() { return m_tools; }
 
  private:
+  // Takes the bitmap over and deletes the one held before.
+  void hold(HBITMAP bitmap);
+  // Holds a new bitmap of this size with the source's picture; false where there is none to be had.
+  bool takeOver(HDC source, int width, int height);
+  void readSize();
+
   HDC m_hDC = nullptr;                 // owned
   HBITMAP m_GDIHBitmap = nullptr;      // owned; null until an init operation succeeds
   HGDIOBJ m_previousBitmap = nullptr;  // put back before the context is deleted

@@ -1,0 +1,204 @@
+// Implements the image on a bitmap of GDI.
+#include "graphics/windows/imageWin.h"
+
+#include "graphics/window.h"
+#include "support/log.h"
+
+namespace {
+
+// A context with a bitmap of its own, for a picture on its way.
+class TemporaryPicture {
+ public:
+  TemporaryPicture(HDC model, int width, int height)
+      : m_context(CreateCompatibleDC(model)), m_bitmap(CreateCompatibleBitmap(model, width, height)) {
+    SetBkMode(m_context, TRANSPARENT);
+    m_previous = SelectObject(m_context, m_bitmap);
+  }
+  ~TemporaryPicture() {
+    SelectObject(m_context, m_previous);
+    DeleteObject(m_bitmap);
+    DeleteDC(m_context);
+  }
+  TemporaryPicture(const TemporaryPicture&) = delete;
+  TemporaryPicture& operator=(const TemporaryPicture&) = delete;
+
+  bool isUsable() const { return m_context != nullptr && m_bitmap != nullptr; }
+  HDC context() const { return m_context; }
+
+ private:
+  HDC m_context;
+  HBITMAP m_bitmap;
+  HGDIOBJ m_previous = nullptr;
+};
+
+HBITMAP makeScreenBitmap(int width, int height) {
+  const HDC screen = GetDC(nullptr);
+  const HBITMAP bitmap = CreateCompatibleBitmap(screen, width, height);
+  ReleaseDC(nullptr, screen);
+  return bitmap;
+}
+
+unsigned lastError() {
+  return static_cast<unsigned>(GetLastError());
+}
+
+}  // namespace
+
+xplImageWin::xplImageWin() : m_hDC(CreateCompatibleDC(nullptr)), m_tools(m_hDC) {
+  SetBkMode(m_hDC, TRANSPARENT);
+}
+
+xplImageWin::~xplImageWin() {
+  if (m_GDIHBitmap != nullptr) {
+    SelectObject(m_hDC, m_previousBitmap);
+    DeleteObject(m_GDIHBitmap);
+  }
+  DeleteDC(m_hDC);
+}
+
+void xplImageWin::hold(HBITMAP bitmap) {
+  const HGDIOBJ replaced = SelectObject(m_hDC, bitmap);
+  if (m_GDIHBitmap == nullptr) {
+    m_previousBitmap = replaced;
+  } else {
+    DeleteObject(m_GDIHBitmap);
+  }
+  m_GDIHBitmap = bitmap;
+  m_width = -1;
+  m_height = -1;
+}
+
+void xplImageWin::readSize() {
+  BITMAP description{};
+  if (m_width < 0 && m_GDIHBitmap != nullptr &&
+      GetObjectA(m_GDIHBitmap, sizeof(description), &description) != 0) {
+    m_width = description.bmWidth;
+    m_height = description.bmHeight;
+  }
+}
+
+void xplImageWin::initWithSizeAndColor(int width, int height, xplColor color) {
+  if (m_GDIHBitmap != nullptr) {
+    logError().add("xplImageWin.initWithSizeAndColor() called but m_GDIHBitmap not null");
+  }
+  if (m_hDC == nullptr) {
+    logError().add("xplImageWin.initWithSizeAndColor() called but m_hDC is null");
+  }
+  const HBITMAP bitmap = isAllowedSize(width, height) ? makeScreenBitmap(width, height) : nullptr;
+  if (bitmap == nullptr) {
+    reportNoBitmap("initWithSizeAndColor", width, height);
+    return;
+  }
+  hold(bitmap);
+  m_tools.fillRect({0, 0, width, height}, color);
+}
+
+bool xplImageWin::initWithResource(int id) {
+  if (m_GDIHBitmap != nullptr) {
+    logError().addf("xplImageWin.initWithResource_impl(%i) called but hBitmap not null", id);
+    return false;
+  }
+  const HBITMAP bitmap = LoadBitmapA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(id));
+  if (bitmap == nullptr) {
+    logError().addf("#4653b: image.initWithResource_impl failed:%i with windows error code:%u", id,
+                    lastError());
+    return false;
+  }
+  if (m_hDC == nullptr) {
+    logError().addf("xplImageWin.initWithResource_impl(%i) called but m_hDC is null", id);
+    DeleteObject(bitmap);
+    return false;
+  }
+  hold(bitmap);
+  return true;
+}
+
+bool xplImageWin::initWithFile_impl(const std::string& filename) {
+  if (m_GDIHBitmap != nullptr) {
+    logError().addf("xplImageWin.initWithFile(%s) called but hBitmap not null", filename.c_str());
+    return false;
+  }
+  const HANDLE bitmap = LoadImageA(nullptr, filename.c_str(), IMAGE_BITMAP, 0, 0, LR_LOADFROMFILE);
+  if (bitmap == nullptr) {
+    const unsigned error = lastError();
+    logError().addf("#4653: image.loadFromFile failed:%s", filename.c_str());
+    logError().addf("        with windows error code:%u", error);
+    return false;
+  }
+  if (m_hDC == nullptr) {
+    logError().addf("xplImageWin.initWithFile(%s) called but m_hDC is null", filename.c_str());
+    DeleteObject(bitmap);
+    return false;
+  }
+  hold(static_cast<HBITMAP>(bitmap));
+  return true;
+}
+
+void xplImageWin::amplifyPixel(int x, int y, float redFactor, float greenFactor, float blueFactor) {
+  m_tools.amplifyPixel(x, y, redFactor, greenFactor, blueFactor);
+}
+
+int xplImageWin::getWidth() {
+  readSize();
+  return m_width < 0 ? 0 : m_width;
+}
+
+int xplImageWin::getHeight() {
+  readSize();
+  return m_height < 0 ? 0 : m_height;
+}
+
+void xplImageWin::drawText(int x, int y, const std::string& text, const xplTextDrawingInfo& info) {
+  m_tools.drawText(x, y, text, info);
+}
+
+void xplImageWin::drawOnWindow(xplWindow& window, int x, int y) {
+  if (m_GDIHBitmap != nullptr) {
+    xplDrawingToolsWinDC(window.currentTarget())
+        .drawImage(x, y, m_hDC, getWidth(), getHeight(), m_transparentColor);
+  }
+}
+
+bool xplImageWin::takeOver(HDC source, int width, int height) {
+  const HBITMAP bitmap = CreateCompatibleBitmap(m_hDC, width, height);
+  if (bitmap == nullptr) {
+    return false;
+  }
+  hold(bitmap);
+  BitBlt(m_hDC, 0, 0, width, height, source, 0, 0, SRCCOPY);
+  return true;
+}
+
+void xplImageWin::resizeTo_impl(int width, int height) {
+  if (m_GDIHBitmap == nullptr) {
+    return;
+  }
+  if (!isAllowedSize(width, height)) {
+    reportNoBitmap("resizeTo_impl", width, height);
+    return;
+  }
+  const TemporaryPicture resized(m_hDC, width, height);
+  SetStretchBltMode(resized.context(), COLORONCOLOR);
+  StretchBlt(resized.context(), 0, 0, width, height, m_hDC, 0, 0, getWidth(), getHeight(), SRCCOPY);
+  if (!resized.isUsable() || !takeOver(resized.context(), width, height)) {
+    reportNoBitmap("resizeTo_impl", width, height);
+    return;
+  }
+  logInfo().addf("xplImageWin.resizeTo_impl() exiting with new w=%i, new h=%i", width, height);
+}
+
+void xplImageWin::crop_impl(int x, int y, int width, int height) {
+  if (m_GDIHBitmap == nullptr) {
+    return;
+  }
+  if (!isAllowedSize(width, height)) {
+    reportNoBitmap("crop_impl", width, height);
+    return;
+  }
+  const TemporaryPicture cropped(m_hDC, width, height);
+  PatBlt(cropped.context(), 0, 0, width, height, BLACKNESS);
+  BitBlt(cropped.context(), 0, 0, width, height, m_hDC, x, y, SRCCOPY);
+  if (!cropped.isUsable() || !takeOver(cropped.context(), width, height)) {
+    reportNoBitmap("crop_impl", width, height);
+  }
+}
