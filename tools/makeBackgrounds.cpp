@@ -37,12 +37,13 @@ struct Stop {
   Color color;
 };
 
-// Night at the zenith, a last blue above the horizon.
+// Night at the zenith, a last blue above the horizon; dark enough there that the dim rims of stars do not
+// show as specks.
 constexpr std::array<Stop, 5> skyStops = {{{0.0, {2.0, 3.0, 11.0}},
                                            {0.35, {5.0, 9.0, 30.0}},
-                                           {0.65, {11.0, 22.0, 58.0}},
-                                           {0.88, {22.0, 42.0, 88.0}},
-                                           {1.0, {32.0, 58.0, 108.0}}}};
+                                           {0.65, {9.0, 18.0, 48.0}},
+                                           {0.88, {13.0, 26.0, 62.0}},
+                                           {1.0, {17.0, 33.0, 74.0}}}};
 
 Color skyAt(double height) {
   for (std::size_t i = 1; i < skyStops.size(); ++i) {

@@ -149,6 +149,10 @@ const char* xplFileSystemMini::lineEnd() {
   return "\n";
 }
 
+// There is no debugger's channel here. Standard error stands in for it on request only: what stands there is for the
+// user to read.
 void xplWriteToDebugger(const char* text) {
-  std::fputs(text, stderr);
+  if (std::getenv("LUNARIA_DEBUG") != nullptr) {
+    std::fputs(text, stderr);
+  }
 }

@@ -1,0 +1,65 @@
+// One frame beside two plain copies of its bytes.
+#include <chrono>
+#include <cstdint>
+#include <cstring>
+#include <vector>
+
+#include <benchmark/benchmark.h>
+
+#include "graphics/linux/memoryWindow.h"
+#include "graphics/window.h"
+#include "privateRun.h"
+#include "world/noctisWorld.h"
+
+namespace {
+
+double secondsOf(std::chrono::steady_clock::duration duration) {
+  return std::chrono::duration<double>(duration).count();
+}
+
+void frame(benchmark::State& state) {
+  const PrivateRun run;
+  const int width = static_cast<int>(state.range(0));
+  const int height = static_cast<int>(state.range(1));
+  xplUserSettings().set("background", static_cast<int>(state.range(2)));
+  MemoryWindow native({0, 0, width, height}, {{0, 0, width, height}});
+  xplWindow window(&native);
+  const std::vector<xplRect<int>> monitors = {xplRect<int>(0, 0, width, height)};
+  TnoctisWorld world(&window, 0, monitors, "");
+  world.initializeWorld();
+  world.draw();  // the background prepares itself
+
+  const auto bytes = static_cast<std::size_t>(width) * static_cast<std::size_t>(height) * 4;
+  std::vector<std::uint8_t> first(bytes, 1);
+  std::vector<std::uint8_t> second(bytes, 2);
+  std::vector<std::uint8_t> third(bytes, 3);
+  double frameSeconds = 0.0;
+  double copySeconds = 0.0;
+  for (auto _ : state) {
+    const auto start = std::chrono::steady_clock::now();
+    world.update(0.04F);
+    world.draw();
+    window.flush();
+    const auto drawn = std::chrono::steady_clock::now();
+    std::memcpy(second.data(), first.data(), bytes);
+    benchmark::DoNotOptimize(second.data());
+    benchmark::ClobberMemory();
+    std::memcpy(third.data(), second.data(), bytes);
+    benchmark::DoNotOptimize(third.data());
+    benchmark::ClobberMemory();
+    const auto copied = std::chrono::steady_clock::now();
+    frameSeconds += secondsOf(drawn - start);
+    copySeconds += secondsOf(copied - drawn);
+    state.SetIterationTime(secondsOf(drawn - start));
+  }
+  state.counters["ratio"] = frameSeconds / copySeconds;
+}
+
+BENCHMARK(frame)
+    ->ArgsProduct({{1920}, {1080}, {0, 1, 2, 3}})
+    ->ArgsProduct({{3840}, {2160}, {0, 1, 2, 3}})
+    ->UseManualTime()
+    ->Iterations(200)
+    ->Unit(benchmark::kMillisecond);
+
+}  // namespace
