@@ -1,10 +1,10 @@
 // Implements the fixture with folders of its own.
 #include "harness/privateFolders.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
-#include <random>
 #include <sstream>
 
 #include "support/fileSystem.h"
@@ -13,10 +13,10 @@
 
 namespace {
 
+// A new folder. Making one is atomic, so of several test programs that run at once each gets its own.
 std::string makeFolder() {
-  std::random_device device;
-  for (;;) {
-    const auto path = std::filesystem::temp_directory_path() / ("lunaria-test-" + std::to_string(device()));
+  for (unsigned number = 1;; ++number) {
+    const auto path = std::filesystem::temp_directory_path() / ("lunaria-test-" + std::to_string(number));
     if (std::filesystem::create_directory(path)) {
       return path.string();
     }
@@ -28,7 +28,8 @@ struct Entry {
   std::string text;
 };
 
-// Splits the log into entries: a line that starts with no level belongs to the entry before it, a stamp to none.
+// Splits the log into entries: a line that starts with no level belongs to the entry before it, a stamp to
+// none.
 std::vector<Entry> entriesOf(const std::string& log) {
   std::vector<Entry> entries;
   std::istringstream lines(log);
@@ -99,4 +100,14 @@ std::string readFile(const std::string& path) {
 void writeFile(const std::string& path, const std::string& content) {
   std::ofstream file(path, std::ios::binary | std::ios::trunc);
   file << content;
+}
+
+std::vector<std::string> filesIn(const std::string& folder) {
+  std::vector<std::string> names;
+  std::error_code missing;
+  for (const auto& entry : std::filesystem::directory_iterator(folder, missing)) {
+    names.push_back(entry.path().filename().string());
+  }
+  std::sort(names.begin(), names.end());
+  return names;
 }

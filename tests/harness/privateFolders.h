@@ -1,4 +1,5 @@
-// A fixture that gives each test folders of its own, a log in them, a clock that stands and a seeded generator.
+// A fixture that gives each test folders of its own, a log in them, a clock that stands and a seeded
+// generator.
 #pragma once
 
 #include <memory>
@@ -18,10 +19,12 @@ class PrivateFolders : public testing::Test {
 
   // The folder that holds all redirected ones.
   const std::string& root() const { return m_root; }
-  // The whole log of this test so far ("\n" line ends), and the same as lines without level, indentation and stamps.
+  // The whole log of this test so far ("\n" line ends), and the same as lines without level, indentation and
+  // stamps.
   std::string logText() const;
   std::vector<std::string> logEntries() const;
-  // How often an entry with exactly this text was written; with this level ("ERROR", "Warning", "Info") where given.
+  // How often an entry with exactly this text was written; with this level ("ERROR", "Warning", "Info") where
+  // given.
   int countEntries(const std::string& text, const std::string& level = "") const;
 
   // 2016-05-21 21:15:00 UTC.
@@ -36,3 +39,5 @@ class PrivateFolders : public testing::Test {
 // Whole content of a file, byte by byte; and a file made with this content.
 std::string readFile(const std::string& path);
 void writeFile(const std::string& path, const std::string& content);
+// The names of everything in a folder, sorted; none where there is no such folder.
+std::vector<std::string> filesIn(const std::string& folder);
