@@ -1,14 +1,7 @@
 // Finds resources in the table that the assembler put into the program.
 #include "support/linux/resources.h"
 
-struct LunariaResource {
-  const char* type;  // null ends the table
-  std::uint64_t id;
-  const std::uint8_t* data;
-  std::uint64_t size;  // bytes
-};
-
-extern "C" const LunariaResource lunariaResourceTable[];
+#include "support/linux/resourceTable.h"
 
 std::optional<std::span<const std::uint8_t>> findResource(std::string_view type, int id) {
   for (const LunariaResource* entry = lunariaResourceTable; entry->type != nullptr; ++entry) {
