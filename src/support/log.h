@@ -114,6 +114,10 @@ class logBlockOfCode {
   logBlockOfCode& operator=(const logBlockOfCode&) = delete;
 
  protected:
+  // The two halves of a block: its entry and the step of indentation after or before it.
+  static void start(const char* word, const std::string& name);
+  static void end(const char* word, const std::string& name);
+
   std::string m_name;
 
  private:

@@ -2,18 +2,26 @@
 #include "support/assertion.h"
 #include "support/log.h"
 
-logBlockOfCode::logBlockOfCode(std::string name, const char* startWord, const char* endWord)
-    : m_name(std::move(name)), m_endWord(endWord) {
-  logInfo().addf("%s: %s", startWord, m_name.c_str());
+void logBlockOfCode::start(const char* word, const std::string& name) {
+  logInfo().addf("%s: %s", word, name.c_str());
   xplLogLevel::m_IdentLevel.fetch_add(1, std::memory_order_relaxed);
 }
 
-logBlockOfCode::~logBlockOfCode() {
-  // Deliberate: an end too many leaves the level below zero, and the entries after it lose their marks until
-  // starts make up for it. The log shows the mistake; do not clamp the level at zero.
+// Deliberate: an end too many leaves the level below zero, and the entries after it lose their marks until
+// starts make up for it. The log shows the mistake; do not clamp the level at zero.
+void logBlockOfCode::end(const char* word, const std::string& name) {
   const int m_IdentLevel = xplLogLevel::m_IdentLevel.fetch_sub(1, std::memory_order_relaxed) - 1;
   xplAssert(m_IdentLevel >= 0, "#9541: reducing log ident to <0", "io.xplLog");
-  logInfo().addf("%s: %s", m_endWord, m_name.c_str());
+  logInfo().addf("%s: %s", word, name.c_str());
+}
+
+logBlockOfCode::logBlockOfCode(std::string name, const char* startWord, const char* endWord)
+    : m_name(std::move(name)), m_endWord(endWord) {
+  start(startWord, m_name);
+}
+
+logBlockOfCode::~logBlockOfCode() {
+  end(m_endWord, m_name);
 }
 
 logTimeCountrer::logTimeCountrer(std::string name)
