@@ -1,0 +1,269 @@
+// Tests the file system where it is alike on every platform: paths, redirected folders, file operations, the
+// report.
+#include <sstream>
+#include <vector>
+
+#include "harness/privateFolders.h"
+#include "support/fileSystem.h"
+
+namespace {
+
+class FileSystem : public PrivateFolders {
+ protected:
+  std::string path(const std::string& name) const { return xplFileSystemMini::joinPath(root(), name); }
+  const std::string separator{xplFileSystemMini::separator()};
+};
+
+std::vector<std::string> linesOf(const std::string& text) {
+  std::vector<std::string> lines;
+  std::istringstream stream(text);
+  for (std::string line; std::getline(stream, line);) {
+    lines.push_back(line);
+  }
+  return lines;
+}
+
+}  // namespace
+
+TEST_F(FileSystem, JoinPutsOneSeparatorBetween) {
+  const std::string expected = "a" + separator + "b";
+  EXPECT_EQ(xplFileSystemMini::joinPath("a", "b"), expected);
+  EXPECT_EQ(xplFileSystemMini::joinPath("a" + separator, "b"), expected);
+  EXPECT_EQ(xplFileSystemMini::joinPath("a", separator + "b"), expected);
+  EXPECT_EQ(xplFileSystemMini::joinPath("a/" + separator, "/" + separator + "b"), expected);
+}
+
+TEST_F(FileSystem, JoinKeepsTheRootOfTheFileSystem) {
+  EXPECT_EQ(xplFileSystemMini::joinPath(separator, "b"), separator + "b");
+}
+
+TEST_F(FileSystem, JoinToAnUnknownFolderGivesARelativeName) {
+  EXPECT_EQ(xplFileSystemMini::joinPath("", "b"), "b");
+}
+
+TEST_F(FileSystem, FileNameIsWhatFollowsTheLastSeparatorOfEitherKind) {
+  EXPECT_EQ(xplFileSystemMini::fileNameOf("/usr/bin/lunaria"), "lunaria");
+  EXPECT_EQ(xplFileSystemMini::fileNameOf("C:\\Windows\\Lunaria.scr"), "Lunaria.scr");
+  EXPECT_EQ(xplFileSystemMini::fileNameOf("C:\\Windows/Lunaria.scr"), "Lunaria.scr");
+  EXPECT_EQ(xplFileSystemMini::fileNameOf("C:/Windows\\Lunaria.scr"), "Lunaria.scr");
+  EXPECT_EQ(xplFileSystemMini::fileNameOf("folder/"), "");
+}
+
+TEST_F(FileSystem, PathWithoutSeparatorIsAllFileName) {
+  EXPECT_EQ(xplFileSystemMini::fileNameOf("Lunaria.scr"), "Lunaria.scr");
+  EXPECT_EQ(xplFileSystemMini::folderOf("Lunaria.scr"), "");
+  EXPECT_EQ(xplFileSystemMini::fileNameOf(""), "");
+  EXPECT_EQ(xplFileSystemMini::folderOf(""), "");
+}
+
+TEST_F(FileSystem, FolderIsWhatPrecedesTheLastSeparatorOfEitherKind) {
+  EXPECT_EQ(xplFileSystemMini::folderOf("/usr/bin/lunaria"), "/usr/bin");
+  EXPECT_EQ(xplFileSystemMini::folderOf("C:\\Windows\\Lunaria.scr"), "C:\\Windows");
+  EXPECT_EQ(xplFileSystemMini::folderOf("C:\\Windows/Lunaria.scr"), "C:\\Windows");
+  EXPECT_EQ(xplFileSystemMini::folderOf("/lunaria"), "");
+}
+
+TEST_F(FileSystem, RedirectedFoldersLieBelowTheRootAndExist) {
+  EXPECT_EQ(xplFileSystemMini::getFolder_Temporary(), path("tmp") + separator);
+  EXPECT_EQ(xplFileSystemMini::getFolder_UserHome(), path("home"));
+  EXPECT_EQ(xplFileSystemMini::getFolder_CommonAppData(), path("allUsersData"));
+  EXPECT_EQ(xplFileSystemMini::getFolder_UserData(), path("userData"));
+  EXPECT_EQ(xplFileSystemMini::getFolder_Desktop(), path("Desktop"));
+  EXPECT_EQ(xplFileSystemMini::getFolder_Fonts(), path("fonts"));
+  for (const char* name : {"tmp", "home", "allUsersData", "userData", "Desktop", "fonts"}) {
+    EXPECT_TRUE(xplFileSystemMini::folderExists(path(name))) << name;
+  }
+}
+
+TEST_F(FileSystem, FoldersByKind) {
+  EXPECT_EQ(xplFileSystemMini::getFolderByKind(1), path("allUsersData"));
+  EXPECT_EQ(xplFileSystemMini::getFolderByKind(2), path("tmp") + separator);
+  EXPECT_EQ(xplFileSystemMini::getFolderByKind(3), path("userData"));
+  for (const int kind : {0, 4, -1, 1000}) {
+    EXPECT_EQ(xplFileSystemMini::getFolderByKind(kind), "") << kind;
+  }
+}
+
+TEST_F(FileSystem, ThePlatformsOwnFoldersAreKnown) {
+  xplFileSystemMini::redirectFolders("");
+  const std::string temporary = xplFileSystemMini::getFolder_Temporary();
+  ASSERT_NE(temporary, "");
+  EXPECT_TRUE(xplFileSystemMini::isSeparator(temporary.back()));
+  EXPECT_TRUE(xplFileSystemMini::folderExists(temporary));
+  for (const std::string& folder :
+       {xplFileSystemMini::getFolder_UserHome(), xplFileSystemMini::getFolder_CommonAppData(),
+        xplFileSystemMini::getFolder_UserData(), xplFileSystemMini::getFolder_Desktop(),
+        xplFileSystemMini::getFolder_Fonts()}) {
+    ASSERT_NE(folder, "");
+    EXPECT_FALSE(xplFileSystemMini::isSeparator(folder.back())) << folder;
+  }
+  xplFileSystemMini::redirectFolders(root());
+  EXPECT_TRUE(logError().isEmpty());
+}
+
+TEST_F(FileSystem, TheProgramsOwnFileIsFound) {
+  const std::string full = xplFileSystemMini::applicationFullPath();
+  EXPECT_TRUE(xplFileSystemMini::fileExists(full)) << full;
+  EXPECT_EQ(xplFileSystemMini::applicationFileName().rfind("test_support", 0), 0U);
+  EXPECT_EQ(xplFileSystemMini::joinPath(xplFileSystemMini::applicationFolder(),
+                                        xplFileSystemMini::applicationFileName()),
+            full);
+}
+
+TEST_F(FileSystem, FilesAndFoldersAreToldApart) {
+  writeFile(path("file"), "x");
+  ASSERT_TRUE(xplFileSystemMini::createFolder(path("folder")));
+  EXPECT_TRUE(xplFileSystemMini::fileExists(path("file")));
+  EXPECT_FALSE(xplFileSystemMini::folderExists(path("file")));
+  EXPECT_FALSE(xplFileSystemMini::fileExists(path("folder")));
+  EXPECT_TRUE(xplFileSystemMini::folderExists(path("folder")));
+  EXPECT_FALSE(xplFileSystemMini::fileExists(path("absent")));
+  EXPECT_FALSE(xplFileSystemMini::folderExists(path("absent")));
+  EXPECT_FALSE(xplFileSystemMini::fileExists(""));
+  EXPECT_FALSE(xplFileSystemMini::folderExists(""));
+}
+
+TEST_F(FileSystem, CreateFolderMakesOneLevelOnce) {
+  EXPECT_TRUE(xplFileSystemMini::createFolder(path("folder")));
+  EXPECT_FALSE(xplFileSystemMini::createFolder(path("folder")));
+  EXPECT_TRUE(xplFileSystemMini::folderExists(path("folder")));
+  EXPECT_FALSE(xplFileSystemMini::createFolder(path("absent/inner")));
+  EXPECT_FALSE(xplFileSystemMini::folderExists(path("absent")));
+}
+
+TEST_F(FileSystem, EmptyFileEmptiesOrMakes) {
+  writeFile(path("file"), "content");
+  EXPECT_TRUE(xplFileSystemMini::emptyFile(path("file")));
+  EXPECT_EQ(readFile(path("file")), "");
+  EXPECT_TRUE(xplFileSystemMini::emptyFile(path("new")));
+  EXPECT_TRUE(xplFileSystemMini::fileExists(path("new")));
+}
+
+TEST_F(FileSystem, EmptyFileFailsWithoutAFolderAndOnAFolder) {
+  EXPECT_FALSE(xplFileSystemMini::emptyFile(path("absent/file")));
+  EXPECT_FALSE(xplFileSystemMini::emptyFile(root()));
+}
+
+TEST_F(FileSystem, AppendAddsTextWithThePlatformsLineEnds) {
+  const std::string end = xplFileSystemMini::lineEnd();
+  EXPECT_TRUE(xplFileSystemMini::appendToFile(path("file"), "one\ntwo\n"));
+  EXPECT_TRUE(xplFileSystemMini::appendToFile(path("file"), "three"));
+  EXPECT_EQ(readFile(path("file")), "one" + end + "two" + end + "three");
+}
+
+TEST_F(FileSystem, AppendFailsWithoutAFolderAndOnAFolder) {
+  EXPECT_FALSE(xplFileSystemMini::appendToFile(path("absent/file"), "text"));
+  EXPECT_FALSE(xplFileSystemMini::appendToFile(root(), "text"));
+}
+
+TEST_F(FileSystem, CopyPutsTheFileIntoTheFolderUnderItsName) {
+  const std::string content("bytes \0 \r\n \xff", 12);
+  writeFile(path("file"), content);
+  ASSERT_TRUE(xplFileSystemMini::createFolder(path("folder")));
+  EXPECT_TRUE(xplFileSystemMini::copyFileIntoFolder(path("file"), path("folder")));
+  EXPECT_EQ(readFile(path("folder/file")), content);
+  EXPECT_EQ(readFile(path("file")), content);
+}
+
+TEST_F(FileSystem, CopyReplacesWhatIsThere) {
+  writeFile(path("file"), "new");
+  ASSERT_TRUE(xplFileSystemMini::createFolder(path("folder")));
+  writeFile(path("folder/file"), "older and longer");
+  EXPECT_TRUE(xplFileSystemMini::copyFileIntoFolder(path("file"), path("folder")));
+  EXPECT_EQ(readFile(path("folder/file")), "new");
+}
+
+TEST_F(FileSystem, CopyFailsWithoutFileOrFolder) {
+  writeFile(path("file"), "content");
+  EXPECT_FALSE(xplFileSystemMini::copyFileIntoFolder(path("absent"), root()));
+  EXPECT_FALSE(xplFileSystemMini::copyFileIntoFolder(path("file"), path("absent")));
+  EXPECT_FALSE(xplFileSystemMini::copyFileIntoFolder(path("file"), ""));
+}
+
+TEST_F(FileSystem, CopyOntoItselfLeavesTheFile) {
+  writeFile(path("file"), "content");
+  xplFileSystemMini::copyFileIntoFolder(path("file"), root());
+  EXPECT_EQ(readFile(path("file")), "content");
+}
+
+TEST_F(FileSystem, ReplaceMakesAndReplacesAFileByteByByte) {
+  ASSERT_TRUE(xplFileSystemMini::createFolder(path("folder")));
+  std::string message;
+  EXPECT_TRUE(xplFileSystemMini::replaceFile(path("folder/file"), "one\n", message));
+  EXPECT_EQ(readFile(path("folder/file")), "one\n");
+  const std::string second("\0\r\n\xff", 4);
+  EXPECT_TRUE(xplFileSystemMini::replaceFile(path("folder/file"), second, message));
+  EXPECT_EQ(readFile(path("folder/file")), second);
+  EXPECT_TRUE(xplFileSystemMini::replaceFile(path("folder/file"), "", message));
+  EXPECT_EQ(readFile(path("folder/file")), "");
+  EXPECT_EQ(filesIn(path("folder")), std::vector<std::string>{"file"});
+}
+
+TEST_F(FileSystem, ReplaceFailsWithTheSystemsMessageWithoutAFolder) {
+  std::string message;
+  EXPECT_FALSE(xplFileSystemMini::replaceFile(path("absent/file"), "text", message));
+  EXPECT_NE(message, "");
+  EXPECT_FALSE(xplFileSystemMini::folderExists(path("absent")));
+}
+
+TEST_F(FileSystem, ReplaceFailsOnAFolderAndLeavesNothingBehind) {
+  ASSERT_TRUE(xplFileSystemMini::createFolder(path("folder")));
+  ASSERT_TRUE(xplFileSystemMini::createFolder(path("folder/file")));
+  std::string message;
+  EXPECT_FALSE(xplFileSystemMini::replaceFile(path("folder/file"), "text", message));
+  EXPECT_NE(message, "");
+  EXPECT_EQ(filesIn(path("folder")), std::vector<std::string>{"file"});
+  EXPECT_TRUE(xplFileSystemMini::folderExists(path("folder/file")));
+}
+
+TEST_F(FileSystem, ReportHoldsTheFoldersOneALine) {
+  const std::string full = xplFileSystemMini::applicationFullPath();
+  EXPECT_EQ(xplFileSystemMini::report(),
+            "File System Report by xplFileSystemMini\n----------------------\n"
+            "App full path filename:" +
+                full +
+                "\n"
+                "App filename:" +
+                xplFileSystemMini::fileNameOf(full) +
+                "\n"
+                "App path:" +
+                xplFileSystemMini::folderOf(full) +
+                "\n"
+                "System's Temp folder:" +
+                path("tmp") + separator +
+                "\n"
+                "User's Temp folder:" +
+                path("tmp") + separator +
+                "\n"
+                "User's home folder:" +
+                path("home") +
+                "\n"
+                "Desktop folder:" +
+                path("Desktop") +
+                "\n"
+                "Fonts folder:" +
+                path("fonts") +
+                "\n"
+                "AppData path:" +
+                path("allUsersData") +
+                "\n"
+                "UserData path:" +
+                path("userData") +
+                "\n"
+                "End of file system report\n----------------------\n");
+}
+
+TEST_F(FileSystem, KeptReportNamesTheTemporaryFolderTwice) {
+  const auto lines = linesOf(xplFileSystemMini::report());
+  ASSERT_EQ(lines.size(), 14U);  // ten between two of head and two of end
+  EXPECT_EQ(lines[5].substr(lines[5].find(':')), lines[6].substr(lines[6].find(':')));
+  EXPECT_EQ(lines[5].rfind("System's Temp folder:", 0), 0U);
+  EXPECT_EQ(lines[6].rfind("User's Temp folder:", 0), 0U);
+}
+
+TEST_F(FileSystem, KeptReportCallsTheFolderOfAllUsersAppData) {
+  const auto lines = linesOf(xplFileSystemMini::report());
+  ASSERT_EQ(lines.size(), 14U);
+  EXPECT_EQ(lines[10], "AppData path:" + xplFileSystemMini::getFolder_CommonAppData());
+  EXPECT_NE(lines[10], "AppData path:" + xplFileSystemMini::getFolder_UserData());
+}
