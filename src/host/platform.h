@@ -7,13 +7,13 @@
 // virtual screen, the preview inside a window that another program owns, the configuration. Before anything
 // else it makes the one xplLog ("Lunaria", both copies on), so that everything that follows finds it. For the
 // first two modes it makes a window and hands its messages to ScreenSaverProc (windowProcedure.h), all on one
-// thread, in this order:
-//   WM_CREATE           once, before any other;
-//   WM_ERASEBKGND       where the platform wants the background gone; it may come at any time or never;
-//   WM_TIMER            wParam is what xplStartTimer returned. Ticks that come late are merged, never queued
-//   up; WM_PAINT            some time after xplInvalidateClientArea, when no tick waits; also when the window
-//   is exposed; WM_CLOSE, WM_DESTROY  once each, at the end, WM_DESTROY also when the window's owner took it
-//   away.
+// thread:
+// - WM_CREATE once, before any other;
+// - WM_ERASEBKGND where the platform wants the background gone; it may come at any time, or never;
+// - WM_TIMER with what xplStartTimer returned in wParam; ticks that come late are merged, never queued up;
+// - WM_PAINT some time after xplInvalidateClientArea, when no tick waits, and when the window is exposed;
+// - WM_CLOSE and then WM_DESTROY, once each, at the end; WM_DESTROY alone where the window was taken away.
+//
 // The saver's object lives from WM_CREATE to WM_DESTROY; a framework that is told to stop sends both endings,
 // since the last steps (the closing lines of the log among them) hang on them.
 //
