@@ -73,9 +73,9 @@ std::uintptr_t xplHandleNumber(xplWindowHandle window);
 // The number of a top-level window of class "Notepad", whatever its title; 0 where there is none.
 std::uintptr_t xplFindNotepadWindow();
 
-// Appends every monitor of the whole virtual screen, in screen coordinates (pixels) and in the platform's own
-// order, the main one first where the platform has one. False where the platform fails; what it told before
-// then stays in the list. `window` is one on the screen in question, and may be null.
+// Appends every monitor of the whole virtual screen, in screen coordinates (pixels), in the order in which
+// the platform tells them. False where the platform fails; what it told before then stays in the list.
+// `window` is one on the screen in question, and may be null.
 bool xplEnumerateMonitors(xplWindowHandle window, std::vector<xplRect<int>>& monitors);
 
 // Tells the user something that needs an answer no better than "OK", and returns when it is read: a message

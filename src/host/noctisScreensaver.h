@@ -1,0 +1,38 @@
+// The screen saver itself: it owns the night sky and turns ticks and paints into its frames.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "host/screenSaverAbstract.h"
+#include "support/log.h"
+#include "support/settingsGroups.h"
+#include "world/noctisWorld.h"
+
+class noctisScreensaver : public xplScreenSaverAbstract {
+ public:
+  // Opens the settings and logs where their files are.
+  noctisScreensaver();
+  ~noctisScreensaver() override;
+
+  // Builds the world on the window. Passes on what the world's construction throws.
+  void initWithWindowHandle(xplWindowHandle windowHandle, std::int32_t monitorId) override;
+  void showConfigureSheet(xplWindowHandle parentWindow) override;
+  void setContainerFolder(const std::string& path) override;
+  void animateOneFrame(float seconds) override;
+  void drawOneFrame() override;
+  // The back buffer covers the whole window at every paint: there is nothing to erase.
+  void eraseBackground() override {}
+  void shutDown() override;
+  bool hasConfigureSheet() override { return true; }
+
+  // The folder that was last set on any such object; empty before.
+  static const std::string& processContainerFolder();
+
+ private:
+  std::unique_ptr<TnoctisWorld> m_world;
+  std::vector<std::unique_ptr<TnoctisWorld>> m_replacedWorlds;  // by a second initialisation
+  cAppSettings m_appSettings;
+  logObjectLife m_life{"noctisScreensaver"};
+};

@@ -1,0 +1,132 @@
+// Tests the dialog of the configuration mode: it runs the settings, then closes itself.
+#include <gmock/gmock.h>
+
+#include "host/noctisScreensaver.h"
+#include "host/windowProcedureFixture.h"
+#include "host/windows/configureDialog.h"
+#include "host/windows/messageQueue.h"
+#include "support/settings.h"
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+namespace {
+
+class ConfigureDialog : public WindowProcedureTest {
+ protected:
+  // The command that waits for the dialog; -1 for none.
+  int postedCommand() const {
+    MSG message{};
+    return PeekMessageA(&message, dialog.handle(), WM_COMMAND, WM_COMMAND, PM_REMOVE) && message.lParam == 0
+               ? static_cast<int>(message.wParam)
+               : -1;
+  }
+
+  PlainWindow dialog{DefDlgProcA};
+};
+
+TEST_F(ConfigureDialog, RunsTheSettingsOfASaverOfItsOwnAndDeletesIt) {
+  EXPECT_EQ(ScreenSaverConfigureDialog(dialog.handle(), WM_INITDIALOG, 0, 0), TRUE);
+  EXPECT_THAT(record.calls, ElementsAre("construct", "configure", "delete"));
+  EXPECT_EQ(windowProcedure::screensaverPtr, nullptr);
+  EXPECT_FALSE(windowProcedure::initializedOnce);
+  EXPECT_THAT(
+      newEntries(),
+      ElementsAre("ScreenSaverConfigureDialog received WM_INITDIALOG", "creating: xplScreenSaverAbstract",
+                  "Program: Lunaria screensaver 5.4.1", "destroying: xplScreenSaverAbstract"));
+}
+
+TEST_F(ConfigureDialog, ASaverWithoutASheetIsNotAskedForOne) {
+  windowProcedure::makeScreenSaver = []() -> std::unique_ptr<xplScreenSaverInterface> {
+    auto saver = std::make_unique<RecordingSaver>(record);
+    saver->m_hasSheet = false;
+    return saver;
+  };
+  EXPECT_EQ(ScreenSaverConfigureDialog(dialog.handle(), WM_INITDIALOG, 0, 0), TRUE);
+  EXPECT_THAT(record.calls, ElementsAre("construct", "delete"));
+  EXPECT_EQ(postedCommand(), IDOK);
+}
+
+TEST_F(ConfigureDialog, WithoutASaverItClosesAllTheSame) {
+  windowProcedure::makeScreenSaver = [] { return std::unique_ptr<xplScreenSaverInterface>(); };
+  EXPECT_EQ(ScreenSaverConfigureDialog(dialog.handle(), WM_INITDIALOG, 0, 0), TRUE);
+  EXPECT_EQ(postedCommand(), IDOK);
+}
+
+TEST_F(ConfigureDialog, TellsItselfToCloseWithOk) {
+  ScreenSaverConfigureDialog(dialog.handle(), WM_INITDIALOG, 0, 0);
+  EXPECT_EQ(postedCommand(), IDOK);
+  EXPECT_EQ(postedCommand(), -1);
+}
+
+TEST_F(ConfigureDialog, DestroyingLogsTheClosingLineAndIsNotHandled) {
+  EXPECT_EQ(ScreenSaverConfigureDialog(dialog.handle(), WM_DESTROY, 0, 0), FALSE);
+  EXPECT_THAT(newEntries(), ElementsAre("xplLog closing"));
+}
+
+TEST_F(ConfigureDialog, KeptUnhandledMessagesAreAnsweredTrue) {
+  for (const UINT message : {WM_PAINT, WM_TIMER, WM_CLOSE, WM_CTLCOLORDLG, WM_KEYDOWN, WM_NULL}) {
+    EXPECT_EQ(ScreenSaverConfigureDialog(dialog.handle(), message, 0, 0), TRUE) << message;
+  }
+  EXPECT_EQ(ScreenSaverConfigureDialog(dialog.handle(), WM_COMMAND, 1001, 0), TRUE);
+  EXPECT_THAT(newEntries(), ElementsAre());
+}
+
+TEST_F(ConfigureDialog, ThereIsNothingToRegister) {
+  EXPECT_EQ(RegisterDialogClasses(GetModuleHandleA(nullptr)), TRUE);
+}
+
+INT_PTR CALLBACK procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  return ScreenSaverConfigureDialog(window, message, wParam, lParam);
+}
+
+// As above, but the dialog is told to cancel where it would run the settings.
+INT_PTR CALLBACK cancellingProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message == WM_INITDIALOG) {
+    PostMessageA(window, WM_COMMAND, MAKEWPARAM(IDCANCEL, BN_CLICKED), 0);
+    return TRUE;
+  }
+  return ScreenSaverConfigureDialog(window, message, wParam, lParam);
+}
+
+INT_PTR runDialog(DLGPROC dialogProcedure) {
+  return DialogBoxParamA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(2003), nullptr, dialogProcedure, 0);
+}
+
+TEST_F(ConfigureDialog, TheRealDialogEndsWithTrueAfterTheSettings) {
+  EXPECT_EQ(runDialog(procedure), TRUE);
+  EXPECT_THAT(record.calls, ElementsAre("construct", "configure", "delete"));
+  EXPECT_EQ(countEntries("xplLog closing"), 1);
+}
+
+TEST_F(ConfigureDialog, TheRealDialogEndsWithFalseWhenCancelled) {
+  EXPECT_EQ(runDialog(cancellingProcedure), FALSE);
+  EXPECT_EQ(countEntries("xplLog closing"), 1);
+}
+
+std::string shownText;
+
+// Reads the message box and presses its button.
+void CALLBACK answerMessageBox(HWND, UINT, UINT_PTR timer, DWORD) {
+  HWND box = FindWindowA("#32770", "Lunaria screensaver");
+  if (!box) {
+    return;
+  }
+  char text[1024] = "";
+  GetDlgItemTextA(box, 0xFFFF, text, sizeof(text));
+  shownText = text;
+  KillTimer(nullptr, timer);
+  PostMessageA(box, WM_COMMAND, IDOK, 0);
+}
+
+TEST_F(ConfigureDialog, TheSaverSaysWhereTheSettingsAre) {
+  shownText.clear();
+  noctisScreensaver saver;
+  SetTimer(nullptr, 0, 20, answerMessageBox);
+  saver.showConfigureSheet(nullptr);
+  EXPECT_THAT(shownText, HasSubstr("no settings sheet"));
+  EXPECT_THAT(shownText, HasSubstr(xplUserSettings().filename()));
+  EXPECT_EQ(countEntries("noctisScreensaver::showConfigureSheet()", "Info"), 1);
+}
+
+}  // namespace
