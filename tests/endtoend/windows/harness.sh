@@ -29,11 +29,12 @@ wait_until() {  # SECONDS COMMAND...
     [ $SECONDS -lt $end ] || return 1
     read -r -t 0.1 <> <(:)
   done
+  return 0
 }
 
 start_display() {
   mkdir -p "$out"
-  exec 5< <(exec Xvfb -displayfd 1 -screen 0 "${screen}x24" -nolisten tcp 2> "$out/xvfb.txt")
+  exec 5< <(exec Xvfb -displayfd 1 -screen 0 "${screen}x24" -nolisten tcp -noreset 2> "$out/xvfb.txt")
   xvfb=$!
   local number
   read -r -t 30 -u 5 number || { echo "no display: see $out/xvfb.txt" >&2; exit 2; }

@@ -65,7 +65,8 @@ TEST_F(ConfigureDialog, DestroyingLogsTheClosingLineAndIsNotHandled) {
 }
 
 TEST_F(ConfigureDialog, KeptUnhandledMessagesAreAnsweredTrue) {
-  for (const UINT message : {WM_PAINT, WM_TIMER, WM_CLOSE, WM_CTLCOLORDLG, WM_KEYDOWN, WM_NULL}) {
+  constexpr UINT messages[] = {WM_PAINT, WM_TIMER, WM_CLOSE, WM_CTLCOLORDLG, WM_KEYDOWN, WM_NULL};
+  for (const UINT message : messages) {
     EXPECT_EQ(ScreenSaverConfigureDialog(dialog.handle(), message, 0, 0), TRUE) << message;
   }
   EXPECT_EQ(ScreenSaverConfigureDialog(dialog.handle(), WM_COMMAND, 1001, 0), TRUE);

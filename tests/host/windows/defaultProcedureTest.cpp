@@ -41,7 +41,8 @@ TEST_F(DefaultProcedure, KeysButtonsAndTheWheelEndTheFullRun) {
 }
 
 TEST_F(DefaultProcedure, ReleasesEndNothing) {
-  for (const UINT message : {WM_KEYUP, WM_SYSKEYUP, WM_LBUTTONUP, WM_RBUTTONUP, WM_MBUTTONUP}) {
+  constexpr UINT releases[] = {WM_KEYUP, WM_SYSKEYUP, WM_LBUTTONUP, WM_RBUTTONUP, WM_MBUTTONUP};
+  for (const UINT message : releases) {
     EXPECT_FALSE(ends(full.handle(), message)) << message;
   }
 }

@@ -6,6 +6,7 @@ namespace {
 constexpr char className[] = "WindowsScreenSaverClass";
 constexpr char windowTitle[] = "Lunaria";
 constexpr WORD programIcon = 201;
+constexpr DWORD silence = 1000;  // milliseconds
 
 HICON loadProgramIcon(HINSTANCE instance) {
   HICON icon = LoadIconA(instance, MAKEINTRESOURCEA(programIcon));
@@ -71,13 +72,24 @@ HWND makePreviewWindow(HINSTANCE instance, HWND parent) {
 
 int runMessages(HWND window, HWND parent) {
   MSG message{};
-  while (GetMessageA(&message, nullptr, 0, 0) > 0) {
-    TranslateMessage(&message);
-    DispatchMessageA(&message);
-    // The timer of the saver brings us here many times a second.
-    if (parent && IsWindow(window) && !IsWindow(parent)) {
+  for (;;) {
+    // The saver's timer wakes us many times a second; silence means that the window may have gone.
+    MsgWaitForMultipleObjects(0, nullptr, FALSE, silence, QS_ALLINPUT);
+    while (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) {
+      if (message.message == WM_QUIT) {
+        return static_cast<int>(message.wParam);
+      }
+      TranslateMessage(&message);
+      DispatchMessageA(&message);
+    }
+    if (!IsWindow(window)) {
+      if (PeekMessageA(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE)) {
+        return static_cast<int>(message.wParam);
+      }
+      // A parent that died took the window with it, and nobody was told.
+      ScreenSaverProc(window, WM_DESTROY, 0, 0);
+    } else if (parent && !IsWindow(parent)) {
       SendMessageA(window, WM_CLOSE, 0, 0);
     }
   }
-  return static_cast<int>(message.wParam);
 }
