@@ -18,9 +18,9 @@ constexpr int centered = xplTextDrawingInfo::alignCentered;
 constexpr int right = xplTextDrawingInfo::alignRight;
 
 // A picture that texts are drawn on, and by whose target they are measured.
-class Canvas : public xplImage {
+class TextPicture : public xplImage {
  public:
-  Canvas(int width, int height) { initWithSizeAndColor(width, height, black); }
+  TextPicture(int width, int height) { initWithSizeAndColor(width, height, black); }
 
   std::pair<int, int> sizeOf(const std::string& text, const xplTextDrawingInfo& info) {
     int width = -1;
@@ -77,7 +77,7 @@ xplTextDrawingInfo plain(const std::string& face, int points, int alignment = le
 }
 
 std::uint64_t hashOf(int x, const std::string& text, const xplTextDrawingInfo& info) {
-  Canvas canvas(520, 160);
+  TextPicture canvas(520, 160);
   canvas.drawText(x, 5, text, info);
   return canvas.hash();
 }
@@ -109,7 +109,7 @@ TEST_P(TextSamples, HavePixelsThatAreTheSameOnEveryPlatform) {
 
 TEST_P(TextSamples, HaveSizesThatAreTheSameOnEveryPlatform) {
   const Sample& sample = GetParam();
-  Canvas canvas(1, 1);
+  TextPicture canvas(1, 1);
   EXPECT_EQ(canvas.sizeOf(sampleText, plain(sample.face, sample.points)),
             (std::pair{sample.width, sample.height}));
 }
@@ -156,7 +156,7 @@ INSTANTIATE_TEST_SUITE_P(LargeSizes, SmoothTextSamples,
                                          SmoothSample{"Arial", 48, 0x979b6e9c5dbed125U}));
 
 TEST(TextTest, LettersStandOnTheBaselineOfTheirFace) {
-  Canvas canvas(16, 14);
+  TextPicture canvas(16, 14);
   canvas.drawText(1, 1, "Ag", plain("Courier New", 8));
   EXPECT_EQ(canvas.rows(), (std::vector<std::string>{
                                "................", "................", "................", "....#...........",
@@ -166,7 +166,7 @@ TEST(TextTest, LettersStandOnTheBaselineOfTheirFace) {
 }
 
 TEST(TextTest, ProportionalLettersHaveWidthsOfTheirOwn) {
-  Canvas canvas(16, 14);
+  TextPicture canvas(16, 14);
   canvas.drawText(1, 1, "Wi", plain("Arial", 8));
   EXPECT_EQ(canvas.rows(), (std::vector<std::string>{
                                "................", "................", "................", ".#...#...#.#....",
@@ -176,7 +176,7 @@ TEST(TextTest, ProportionalLettersHaveWidthsOfTheirOwn) {
 }
 
 TEST(TextTest, OnlyTheColorsOfTextAndBackgroundAppearWithoutAntialiasing) {
-  Canvas canvas(200, 40);
+  TextPicture canvas(200, 40);
   canvas.drawText(4, 4, sampleText, plain("Arial", 12));
   EXPECT_GT(canvas.countOf(white), 100);
   EXPECT_EQ(canvas.countOf(white) + canvas.countOf(black), 200 * 40);
@@ -185,7 +185,7 @@ TEST(TextTest, OnlyTheColorsOfTextAndBackgroundAppearWithoutAntialiasing) {
 TEST(TextTest, AntialiasedTextHasColorsBetweenTextAndBackground) {
   xplTextDrawingInfo info = plain("Arial", 18);
   info.nonAntialiased = 0;
-  Canvas canvas(300, 80);
+  TextPicture canvas(300, 80);
   canvas.drawText(4, 4, sampleText, info);
   EXPECT_GT(canvas.countOf(white), 100);
   EXPECT_LT(canvas.countOf(white) + canvas.countOf(black), 300 * 80);
@@ -201,7 +201,7 @@ TEST(TextTest, AFlagOtherThanOneLeavesAntialiasingOn) {
 }
 
 TEST(TextTest, AntialiasingDoesNotChangeTheSize) {
-  Canvas canvas(1, 1);
+  TextPicture canvas(1, 1);
   for (const int points : {8, 10, 12, 16, 18, 48}) {
     xplTextDrawingInfo smooth = plain("Arial", points);
     smooth.nonAntialiased = 0;
@@ -210,17 +210,17 @@ TEST(TextTest, AntialiasingDoesNotChangeTheSize) {
 }
 
 TEST(TextTest, EmptyTextHasNoSizeAndDrawsNothing) {
-  Canvas canvas(50, 30);
+  TextPicture canvas(50, 30);
   EXPECT_EQ(canvas.sizeOf("", plain("Arial", 12)), (std::pair{0, 0}));
   canvas.drawText(5, 5, "", plain("Arial", 12));
   EXPECT_EQ(canvas.countOf(black), 50 * 30);
 }
 
 TEST(TextTest, EitherSizeMayBeLeftOut) {
-  class Measured : public Canvas {
+  class Measured : public TextPicture {
    public:
-    using Canvas::Canvas;
-    using Canvas::tools;
+    using TextPicture::TextPicture;
+    using TextPicture::tools;
   } canvas(1, 1);
   int width = -1;
   int height = -1;
@@ -231,7 +231,7 @@ TEST(TextTest, EitherSizeMayBeLeftOut) {
 }
 
 TEST(TextTest, LinesEndAtLineFeedsAndCarriageReturns) {
-  Canvas canvas(1, 1);
+  TextPicture canvas(1, 1);
   const xplTextDrawingInfo info = plain("Courier New", 12);
   for (const char* text : {"a\nbc", "a\r\nbc", "a\rbc", "a\n\rbc"}) {
     EXPECT_EQ(canvas.sizeOf(text, info), (std::pair{20, 36})) << testing::PrintToString(text);
@@ -242,31 +242,31 @@ TEST(TextTest, LinesEndAtLineFeedsAndCarriageReturns) {
 }
 
 TEST(TextTest, ALineEndAtTheEndBeginsNoLine) {
-  Canvas canvas(1, 1);
+  TextPicture canvas(1, 1);
   EXPECT_EQ(canvas.sizeOf("a\n", plain("Courier New", 12)), (std::pair{10, 18}));
   EXPECT_EQ(canvas.sizeOf("\n", plain("Courier New", 12)), (std::pair{0, 18}));
 }
 
 TEST(TextTest, LinesAreAlignedOneByOne) {
   const xplTextDrawingInfo info = plain("Courier New", 12, right);
-  Canvas both(100, 50);
+  TextPicture both(100, 50);
   both.drawText(90, 4, "abc\nx", info);
-  Canvas single(100, 50);
+  TextPicture single(100, 50);
   single.drawText(90, 4, "abc", info);
   single.drawText(90, 22, "x", info);
   EXPECT_EQ(both.rows(), single.rows());
 }
 
 TEST(TextTest, CenteredTextOfOddWidthIsShiftedByHalfAPixelToTheRight) {
-  Canvas centeredCanvas(60, 30);
+  TextPicture centeredCanvas(60, 30);
   centeredCanvas.drawText(30, 4, "i", plain("Courier New", 10, centered));  // 8 pixels wide
-  Canvas leftCanvas(60, 30);
+  TextPicture leftCanvas(60, 30);
   leftCanvas.drawText(26, 4, "i", plain("Courier New", 10));
   EXPECT_EQ(centeredCanvas.rows(), leftCanvas.rows());
 
-  Canvas oddCentered(60, 30);
+  TextPicture oddCentered(60, 30);
   oddCentered.drawText(30, 4, "i", plain("Courier New", 8, centered));  // 7 pixels wide
-  Canvas oddLeft(60, 30);
+  TextPicture oddLeft(60, 30);
   oddLeft.drawText(26, 4, "i", plain("Courier New", 8));
   EXPECT_EQ(oddCentered.rows(), oddLeft.rows());
 }
@@ -276,7 +276,7 @@ TEST(TextTest, AnUnknownAlignmentIsLeft) {
 }
 
 TEST(TextTest, SpacingIsTruncatedAndFollowsEachCharacter) {
-  Canvas canvas(1, 1);
+  TextPicture canvas(1, 1);
   xplTextDrawingInfo info = plain("Courier New", 12);
   info.characterSpacing = 2.9F;
   EXPECT_EQ(canvas.sizeOf("abc\nd", info), (std::pair{36, 36}));
@@ -286,18 +286,18 @@ TEST(TextTest, SpacingIsTruncatedAndFollowsEachCharacter) {
 
 TEST(TextTest, SpacedCharactersStandApart) {
   xplTextDrawingInfo info = plain("Courier New", 12);
-  Canvas apart(60, 20);
+  TextPicture apart(60, 20);
   apart.drawText(1, 1, "a", info);
   apart.drawText(16, 1, "b", info);
   info.characterSpacing = 5.0F;
-  Canvas spaced(60, 20);
+  TextPicture spaced(60, 20);
   spaced.drawText(1, 1, "ab", info);
   EXPECT_EQ(spaced.rows(), apart.rows());
 }
 
 TEST(TextTest, SpacingEndsWithItsText) {
   xplTextDrawingInfo info = plain("Courier New", 12);
-  Canvas canvas(1, 1);
+  TextPicture canvas(1, 1);
   info.characterSpacing = 5.0F;
   EXPECT_EQ(canvas.sizeOf("ab", info).first, 30);
   info.characterSpacing.reset();
@@ -313,28 +313,28 @@ TEST(TextTest, AnAbsentSizeIsTenPointsAndAnAbsentFaceArial) {
 }
 
 TEST(TextTest, ASizeOfZeroGivesLinesOfSixteenPixels) {
-  Canvas canvas(1, 1);
+  TextPicture canvas(1, 1);
   EXPECT_EQ(canvas.sizeOf("Hxgy, Qj 09", plain("Courier New", 0)), (std::pair{88, 16}));
   EXPECT_EQ(canvas.sizeOf("Hxgy, Qj 09", plain("Arial", 0)), (std::pair{74, 16}));
 }
 
 TEST(TextTest, ANegativeSizeGivesLinesOfThatHeight) {
-  Canvas canvas(1, 1);
+  TextPicture canvas(1, 1);
   EXPECT_EQ(canvas.sizeOf("Hxgy, Qj 09", plain("Courier New", -30)), (std::pair{231, 40}));
 }
 
 TEST(TextTest, AnAmpersandIsDrawnAsItStands) {
-  Canvas canvas(1, 1);
+  TextPicture canvas(1, 1);
   EXPECT_EQ(canvas.sizeOf("a&b&&", plain("Courier New", 12)), (std::pair{50, 18}));
 }
 
 TEST(TextTest, ATabIsACharacterLikeOthers) {
-  Canvas canvas(1, 1);
+  TextPicture canvas(1, 1);
   EXPECT_EQ(canvas.sizeOf("a\tb", plain("Courier New", 12)), (std::pair{30, 18}));
 }
 
 TEST(TextTest, TextEndsAtAZeroByte) {
-  Canvas canvas(1, 1);
+  TextPicture canvas(1, 1);
   EXPECT_EQ(canvas.sizeOf(std::string("ab\0cd", 5), plain("Courier New", 12)), (std::pair{20, 18}));
 }
 
@@ -347,9 +347,9 @@ TEST(TextTest, AThinFaceThatTheFamilyLacksIsTheRegularOne) {
 
 TEST(TextTest, TextAcrossTheEdgesIsClipped) {
   const xplTextDrawingInfo info = plain("Arial", 48);
-  Canvas whole(200, 200);
+  TextPicture whole(200, 200);
   whole.drawText(60, 60, "Qy", info);
-  Canvas part(40, 40);
+  TextPicture part(40, 40);
   part.drawText(-20, -10, "Qy", info);
   for (int y = 0; y < 40; ++y) {
     for (int x = 0; x < 40; ++x) {
@@ -360,7 +360,7 @@ TEST(TextTest, TextAcrossTheEdgesIsClipped) {
 }
 
 TEST(TextTest, TextFarOutsideDrawsNothing) {
-  Canvas canvas(20, 20);
+  TextPicture canvas(20, 20);
   for (const int alignment : {left, centered, right}) {
     canvas.drawText(30000, 5, "abc", plain("Arial", 12, alignment));
     canvas.drawText(-30000, 5, "abc", plain("Arial", 12, alignment));
