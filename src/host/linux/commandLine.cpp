@@ -1,0 +1,196 @@
+// Reads the command line.
+#include "host/linux/commandLine.h"
+
+#include <algorithm>
+#include <charconv>
+#include <string_view>
+
+namespace {
+
+constexpr int largestSide = 16384;  // pixels; what a pixmap of the protocol can hold with room to spare
+
+// A number that fills the whole text; nothing where it does not.
+std::optional<std::uint32_t> numberOf(std::string_view digits, int base) {
+  std::uint32_t number = 0;
+  const char* end = digits.data() + digits.size();
+  const auto [stop, error] = std::from_chars(digits.data(), end, number, base);
+  if (digits.empty() || error != std::errc{} || stop != end) {
+    return std::nullopt;
+  }
+  return number;
+}
+
+std::optional<std::uint32_t> windowIdOf(std::string_view text) {
+  const bool isHexadecimal = text.starts_with("0x") || text.starts_with("0X");
+  return isHexadecimal ? numberOf(text.substr(2), 16) : numberOf(text, 10);
+}
+
+// Reads one command line from left to right.
+class Reader {
+ public:
+  Reader(const std::vector<std::string>& arguments, const std::optional<std::string>& screenSaverWindow)
+      : m_arguments(arguments), m_screenSaverWindow(screenSaverWindow) {}
+
+  CommandLine read() {
+    while (!m_error && m_next < m_arguments.size()) {
+      readOption(m_arguments[m_next++]);
+    }
+    if (m_answer) {
+      return HostRequest{.mode = *m_answer, .window = {}};
+    }
+    if (m_error) {
+      return *m_error;
+    }
+    return m_request;
+  }
+
+ private:
+  using Mode = HostRequest::Mode;
+
+  void readOption(const std::string& argument) {
+    if (argument == "/s") {
+      setMode(Mode::fullRun);
+    } else if (argument == "/c") {
+      setMode(Mode::configuration);
+    } else if (argument == "/p") {
+      readWindow(argument, std::nullopt);
+    } else if (argument.starts_with("-")) {
+      readLongOption(argument);
+    } else {
+      fail("unknown argument '" + argument + "'");
+    }
+  }
+
+  void readLongOption(const std::string& argument) {
+    const std::size_t dashes = argument.starts_with("--") ? 2 : 1;
+    const std::size_t equals = argument.find('=');
+    const std::string name = argument.substr(dashes, equals == std::string::npos ? equals : equals - dashes);
+    std::optional<std::string> value;
+    if (equals != std::string::npos) {
+      value = argument.substr(equals + 1);
+    }
+    if (name == "preview" || name == "window-id") {
+      readWindow(argument.substr(0, equals), value);
+    } else if (name == "window") {
+      readSize(value);
+    } else if (value || !readPlainOption(name)) {
+      fail("unknown option '" + argument + "'");
+    }
+  }
+
+  bool readPlainOption(const std::string& name) {
+    if (name == "help" || name == "version") {
+      m_answer = name == "help" ? Mode::help : Mode::version;
+    } else if (name == "fullscreen") {
+      setMode(Mode::fullRun);
+    } else if (name == "configure") {
+      setMode(Mode::configuration);
+    } else if (name == "root") {
+      readRoot();
+    } else {
+      return false;
+    }
+    return true;
+  }
+
+  void readWindow(const std::string& option, std::optional<std::string> value) {
+    if (!value && m_next < m_arguments.size()) {
+      value = m_arguments[m_next++];
+    }
+    if (!value) {
+      fail("option " + option + " needs a window id after it");
+      return;
+    }
+    const auto id = windowIdOf(*value);
+    if (!id) {
+      failPlainly("'" + *value + "' is not a window id: give a decimal number, or a hexadecimal one with 0x");
+      return;
+    }
+    m_request.mode = Mode::preview;
+    m_request.window = id;
+  }
+
+  void readRoot() {
+    if (m_request.mode == Mode::preview) {
+      return;
+    }
+    m_request.mode = Mode::foreignRun;
+    m_request.window.reset();
+    if (!m_screenSaverWindow) {
+      return;
+    }
+    m_request.window = windowIdOf(*m_screenSaverWindow);
+    if (!m_request.window) {
+      failPlainly("XSCREENSAVER_WINDOW is '" + *m_screenSaverWindow +
+                  "', which is not a window id: unset it, or set it to a number");
+    }
+  }
+
+  void readSize(std::optional<std::string> value) {
+    setMode(Mode::ordinaryWindow);
+    if (!value && m_next < m_arguments.size() && startsWithDigit(m_arguments[m_next])) {
+      value = m_arguments[m_next++];
+    }
+    if (!value) {
+      return;
+    }
+    const std::size_t times = std::min(value->find('x'), value->size());
+    const std::string_view sides = *value;
+    const int width = sideOf(sides.substr(0, times));
+    const int height = sideOf(sides.substr(std::min(times + 1, sides.size())));
+    if (width == 0 || height == 0) {
+      failPlainly("'" + *value + "' is not a window size: give WIDTHxHEIGHT in pixels, each from 1 to " +
+                  std::to_string(largestSide));
+      return;
+    }
+    m_request.width = width;
+    m_request.height = height;
+  }
+
+  // 0 where the digits are no side of a window.
+  static int sideOf(std::string_view digits) {
+    const std::uint32_t side = numberOf(digits, 10).value_or(0);
+    return side <= static_cast<std::uint32_t>(largestSide) ? static_cast<int>(side) : 0;
+  }
+  static bool startsWithDigit(const std::string& text) {
+    return !text.empty() && text[0] >= '0' && text[0] <= '9';
+  }
+
+  void setMode(Mode mode) {
+    m_request = {};
+    m_request.mode = mode;
+  }
+  void fail(const std::string& text) { setError({text, true}); }
+  void failPlainly(const std::string& text) { setError({text, false}); }
+  // The first error is the one to mend first.
+  void setError(const CommandLineError& error) {
+    if (!m_error) {
+      m_error = error;
+    }
+  }
+
+  const std::vector<std::string>& m_arguments;
+  const std::optional<std::string>& m_screenSaverWindow;
+  std::size_t m_next = 0;
+  HostRequest m_request;
+  std::optional<Mode> m_answer;  // help or version, once asked for
+  std::optional<CommandLineError> m_error;
+};
+
+}  // namespace
+
+CommandLine parseCommandLine(const std::vector<std::string>& arguments,
+                             const std::optional<std::string>& screenSaverWindow) {
+  return Reader(arguments, screenSaverWindow).read();
+}
+
+std::vector<std::string> canonicalArguments(const std::string& program, const HostRequest& request) {
+  switch (request.mode) {
+    case HostRequest::Mode::preview:
+      return {program, "/p", std::to_string(request.window.value_or(0))};
+    case HostRequest::Mode::configuration:
+      return {program, "/c"};
+    default:
+      return {program, "/s"};
+  }
+}

@@ -1,0 +1,110 @@
+// The message flow of the saver's one window: posted messages, then timers, then paints.
+#pragma once
+
+#include <cstdint>
+#include <deque>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "host/linux/fileDescriptor.h"
+#include "host/linux/windowKind.h"
+#include "host/platform.h"
+
+// What the pump needs of the display behind the window.
+class DisplayLink {
+ public:
+  virtual ~DisplayLink() = default;
+  // Readable when the display has something to say; -1 where there is nothing to wait for.
+  virtual int descriptor() const = 0;
+  // Turns all that has arrived into messages. Called before the pump waits, so nothing may stay behind.
+  virtual void collect() = 0;
+  // False while the display still reads the last frame; what ends that makes the descriptor readable.
+  virtual bool mayPaint() = 0;
+  // Sends what is still on its way to the display.
+  virtual void flush() = 0;
+};
+
+class MessagePump {
+ public:
+  using Procedure = LRESULT(XPL_CALLBACK*)(xplWindowHandle, UINT, WPARAM, LPARAM);
+
+  // There is one at a time; the seam's calls find it through current(). Everything is borrowed.
+  MessagePump(xplWindowHandle window, WindowKind kind, Procedure procedure);
+  ~MessagePump();
+  MessagePump(const MessagePump&) = delete;
+  MessagePump& operator=(const MessagePump&) = delete;
+  // Null while there is none.
+  static MessagePump* current();
+
+  WindowKind kind() const { return m_kind; }
+
+  // Hands a message to the procedure at once, and later, in the order of posting.
+  LRESULT send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
+  void post(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
+
+  // A WM_TIMER every so many milliseconds (at least 1). Periods that have passed unseen are merged into one
+  // message. Returns the id; 0 where the system gives no timer. A timer of this id starts anew.
+  std::uintptr_t startTimer(std::uintptr_t id, unsigned milliseconds);
+  void stopTimer(std::uintptr_t id);
+
+  // The window wants a WM_PAINT, or has had one.
+  void invalidate() { m_isInvalid = true; }
+  void validate() { m_isInvalid = false; }
+
+  // Calls back while the descriptor is readable, until it is unwatched. The callback must read it empty.
+  void watch(int descriptor, std::function<void()> onReadable);
+  void unwatch(int descriptor);
+
+  // Sends WM_DESTROY, once; the run ends with it.
+  void destroyWindow();
+  // The window or its display is not there any more: WM_DESTROY, and the run ends as a failure. One line for
+  // the user.
+  void windowIsGone(const std::string& why);
+  // Ends run() after the message in hand.
+  void quit() { m_hasQuit = true; }
+  // Why the window went; empty where nothing was wrong.
+  const std::string& failure() const { return m_failure; }
+
+  // Runs the messages until quit().
+  void run(DisplayLink& display);
+
+  // Where the pointer was seen first, so that small movements end nothing.
+  struct PointerStart {
+    bool isKnown = false;
+    int x = 0, y = 0;  // pixels
+  };
+  PointerStart pointerStart;
+
+ private:
+  struct Message {
+    UINT message;
+    WPARAM wParam;
+    LPARAM lParam;
+  };
+  struct Watch {
+    int descriptor;
+    std::function<void()> onReadable;
+  };
+  struct Timer {
+    std::uintptr_t id;
+    FileDescriptor descriptor;
+  };
+
+  void dispatchNext();
+  // Waits until something can be read, for at most so many milliseconds (-1: for ever). True when it was.
+  bool waitAndCall(const DisplayLink& display, int milliseconds);
+  void callWatch(int descriptor);
+  void tick(std::uintptr_t id, int descriptor);
+
+  xplWindowHandle m_window;
+  WindowKind m_kind;
+  Procedure m_procedure;
+  std::deque<Message> m_messages;
+  std::vector<Watch> m_watches;
+  std::vector<Timer> m_timers;
+  bool m_isInvalid = false;
+  bool m_isDestroyed = false;
+  bool m_hasQuit = false;
+  std::string m_failure;
+};

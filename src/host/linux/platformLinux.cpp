@@ -1,0 +1,55 @@
+// Supplies the host's seam on Linux.
+#include <iostream>
+
+#include "host/linux/messagePump.h"
+#include "host/platform.h"
+
+std::uintptr_t xplStartTimer(xplWindowHandle, std::uintptr_t wantedId, unsigned milliseconds) {
+  MessagePump* pump = MessagePump::current();
+  return pump != nullptr ? pump->startTimer(wantedId, milliseconds) : 0;
+}
+
+void xplStopTimer(xplWindowHandle, std::uintptr_t id) {
+  if (MessagePump* pump = MessagePump::current()) {
+    pump->stopTimer(id);
+  }
+}
+
+void xplInvalidateClientArea(xplWindowHandle) {
+  if (MessagePump* pump = MessagePump::current()) {
+    pump->invalidate();
+  }
+}
+
+xplPaintScope::xplPaintScope(xplWindowHandle window) : m_window(window), m_data{} {
+  if (MessagePump* pump = MessagePump::current()) {
+    pump->validate();
+  }
+}
+
+xplPaintScope::~xplPaintScope() = default;
+
+std::uintptr_t xplHandleNumber(xplWindowHandle window) {
+  return window != nullptr ? window->id() : 0;
+}
+
+// Windows of that class belong to an editor of the other platform; there are none here to look for.
+std::uintptr_t xplFindNotepadWindow() {
+  return 0;
+}
+
+bool xplEnumerateMonitors(xplWindowHandle window, std::vector<xplRect<int>>& monitors) {
+  if (window == nullptr) {
+    return false;
+  }
+  const std::vector<xplEdges> list = window->monitors();
+  for (const auto& monitor : list) {
+    monitors.emplace_back(monitor.top, monitor.left, monitor.right - monitor.left,
+                          monitor.bottom - monitor.top);
+  }
+  return !list.empty();
+}
+
+void xplTellUser(xplWindowHandle, const std::string& title, const std::string& text) {
+  std::cerr << title << ": " << text << std::endl;
+}

@@ -1,0 +1,13 @@
+// The saver's run from the first question to the display to the last line of the log.
+#pragma once
+
+#include "host/linux/commandLine.h"
+#include "host/linux/stopSignals.h"
+#include "host/linux/x11Connection.h"
+
+// Shows the saver until input or a signal ends it. Returns in order where a signal came before the window was
+// there. Throws HostFailure where the saver cannot start, or where its window or its display was taken away.
+void runSaver(X11Connection& connection, StopSignals& signals, const HostRequest& request);
+
+// Lets the user edit the settings.
+void runConfiguration();

@@ -1,0 +1,31 @@
+// The texts with which the program explains itself.
+#include "host/linux/commandLine.h"
+#include "host/programVersion.h"
+
+std::string usageText() {
+  return R"(Usage: lunaria [OPTION]...
+A night sky that moves: a screen saver for X11.
+
+Without an option it covers the whole screen until a key, a button or the pointer ends it.
+
+  /s, --fullscreen      the same
+  --root                run in the window that XSCREENSAVER_WINDOW names, as screen saver daemons ask for;
+                        where that is not set, on the root window. Input does not end it
+  /p ID, --preview ID, --window-id ID
+                        the preview, in the window of this id (decimal, or hexadecimal with 0x).
+                        Wins over --root
+  --window [WxH]        run in an ordinary window, 960x600 where no size is given;
+                        Escape, q or closing the window ends it
+  /c, --configure       edit the settings
+  --help                show this text
+  --version             show the version
+
+Long options may be written with one dash. DISPLAY names the display. LUNARIA_NO_SHM=1 draws without memory
+shared with the display.
+The log of the last run is Lunaria.xplLog.txt in the temporary folder.
+)";
+}
+
+std::string versionText() {
+  return std::string("lunaria ") + programVersion + "\n";
+}
