@@ -30,7 +30,10 @@ class PrivateFolder {
   PrivateFolder()
       : m_path(std::filesystem::temp_directory_path() /
                ("lunaria-render-" + std::to_string(processNumber()))) {
-    std::filesystem::create_directory(m_path);
+    // A folder that was there already may be anybody's.
+    if (!std::filesystem::create_directory(m_path)) {
+      throw std::runtime_error("'" + m_path.string() + "' is in the way: remove it");
+    }
     std::filesystem::permissions(m_path, std::filesystem::perms::owner_all);
     xplCloseSettings();
     xplFileSystemMini::redirectFolders(m_path.string());
