@@ -84,23 +84,6 @@ TEST_F(FileSystem, FoldersByKind) {
   }
 }
 
-TEST_F(FileSystem, ThePlatformsOwnFoldersAreKnown) {
-  xplFileSystemMini::redirectFolders("");
-  const std::string temporary = xplFileSystemMini::getFolder_Temporary();
-  ASSERT_NE(temporary, "");
-  EXPECT_TRUE(xplFileSystemMini::isSeparator(temporary.back()));
-  EXPECT_TRUE(xplFileSystemMini::folderExists(temporary));
-  for (const std::string& folder :
-       {xplFileSystemMini::getFolder_UserHome(), xplFileSystemMini::getFolder_CommonAppData(),
-        xplFileSystemMini::getFolder_UserData(), xplFileSystemMini::getFolder_Desktop(),
-        xplFileSystemMini::getFolder_Fonts()}) {
-    ASSERT_NE(folder, "");
-    EXPECT_FALSE(xplFileSystemMini::isSeparator(folder.back())) << folder;
-  }
-  xplFileSystemMini::redirectFolders(root());
-  EXPECT_TRUE(logError().isEmpty());
-}
-
 TEST_F(FileSystem, TheProgramsOwnFileIsFound) {
   const std::string full = xplFileSystemMini::applicationFullPath();
   EXPECT_TRUE(xplFileSystemMini::fileExists(full)) << full;

@@ -49,7 +49,7 @@ std::string endOfLinks(const std::string& path) {
 }
 
 // The mode that the new file gets: that of the old one, or else the owner's alone.
-// False, with errno set, where what is there is no file that could be replaced.
+// False, with errno set, where what is there is no file, or one that its owner has protected.
 bool modeForReplacement(const std::string& path, mode_t& mode) {
   struct stat status {};
   if (lstat(path.c_str(), &status) != 0) {
@@ -61,7 +61,8 @@ bool modeForReplacement(const std::string& path, mode_t& mode) {
     errno = S_ISDIR(status.st_mode) ? EISDIR : S_ISLNK(status.st_mode) ? ELOOP : EINVAL;
     return false;
   }
-  return true;
+  // A rename alone would not ask the file's own rights.
+  return faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) == 0;
 }
 
 // Makes a rename last through a loss of power. Some file systems cannot; the file is whole all the same.
@@ -149,8 +150,8 @@ const char* xplFileSystemMini::lineEnd() {
   return "\n";
 }
 
-// There is no debugger's channel here. Standard error stands in for it on request only: what stands there is for the
-// user to read.
+// There is no debugger's channel here. Standard error stands in for it on request only: what stands there is
+// for the user to read.
 void xplWriteToDebugger(const char* text) {
   if (std::getenv("LUNARIA_DEBUG") != nullptr) {
     std::fputs(text, stderr);

@@ -4,6 +4,7 @@
 #include <fstream>
 #include <vector>
 
+#include <fcntl.h>
 #include <pwd.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -72,7 +73,8 @@ std::string madeXdgFolder(const char* variable, const char* defaultName) {
 bool isUsersOwn(const std::string& folder) {
   struct stat status {};
   return lstat(folder.c_str(), &status) == 0 && S_ISDIR(status.st_mode) && status.st_uid == geteuid() &&
-         (status.st_mode & (S_IWGRP | S_IWOTH)) == 0 && access(folder.c_str(), W_OK | X_OK) == 0;
+         (status.st_mode & (S_IWGRP | S_IWOTH)) == 0 &&
+         faccessat(AT_FDCWD, folder.c_str(), W_OK | X_OK, AT_EACCESS) == 0;
 }
 
 // The value of a line such as XDG_DESKTOP_DIR="$HOME/Desktop", with the home folder put in and escapes

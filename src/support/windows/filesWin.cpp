@@ -163,6 +163,11 @@ bool xplFileSystemMini::appendToFile(const std::string& path, std::string_view t
 bool xplFileSystemMini::replaceFile(const std::string& path, std::string_view content,
                                     std::string& errorMessage) {
   const std::string target = endOfLinks(path);
+  const DWORD attributes = GetFileAttributesA(target.c_str());
+  if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) != 0) {
+    errorMessage = messageOf(ERROR_ACCESS_DENIED);  // who protected the file wants it left alone
+    return false;
+  }
   const std::string next = newNameBeside(target);
   const bool written = writeNewFile(next, content);
   if (written && MoveFileExA(next.c_str(), target.c_str(),

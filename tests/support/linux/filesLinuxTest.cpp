@@ -94,7 +94,7 @@ TEST_F(FilesLinux, NewFilesAreTheUsersAlone) {
 
 TEST_F(FilesLinux, ReplaceKeepsTheMode) {
   writeFile(path("file"), "old");
-  for (const mode_t mode : {mode_t{0644}, mode_t{0600}, mode_t{0666}, mode_t{0400}}) {
+  for (const mode_t mode : {mode_t{0644}, mode_t{0600}, mode_t{0666}, mode_t{0640}}) {
     ASSERT_EQ(chmod(path("file").c_str(), mode), 0);
     EXPECT_TRUE(replace("file", "new"));
     EXPECT_EQ(modeOf(path("file")), static_cast<int>(mode));
@@ -168,6 +168,19 @@ TEST_F(FilesLinux, FolderWithoutRightsLeavesTheOldFileWhole) {
   EXPECT_FALSE(replace("file", "new"));
   EXPECT_EQ(message, "Permission denied");
   ASSERT_EQ(chmod(path("").c_str(), 0700), 0);
+  EXPECT_EQ(readFile(path("file")), "old");
+  EXPECT_EQ(filesIn(path("")), std::vector<std::string>{"file"});
+}
+
+TEST_F(FilesLinux, FileThatItsOwnerProtectedStays) {
+  ASSERT_TRUE(replace("file", "old"));
+  const OrdinaryUser user(root());
+  if (!user.canUse(path(""))) {
+    GTEST_SKIP() << "no ordinary user can reach " << root();
+  }
+  ASSERT_EQ(chmod(path("file").c_str(), 0400), 0);
+  EXPECT_FALSE(replace("file", "new"));
+  EXPECT_EQ(message, "Permission denied");
   EXPECT_EQ(readFile(path("file")), "old");
   EXPECT_EQ(filesIn(path("")), std::vector<std::string>{"file"});
 }

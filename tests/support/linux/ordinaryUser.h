@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <string>
 
+#include <fcntl.h>
 #include <unistd.h>
 
 // Gives everything below the folder to an ordinary user and becomes that user until the object goes.
@@ -29,7 +30,9 @@ class OrdinaryUser {
   OrdinaryUser& operator=(const OrdinaryUser&) = delete;
 
   // False where the system did not let the test become another user, or that user cannot reach the folder.
-  bool canUse(const std::string& folder) const { return m_ready && access(folder.c_str(), W_OK) == 0; }
+  bool canUse(const std::string& folder) const {
+    return m_ready && faccessat(AT_FDCWD, folder.c_str(), W_OK, AT_EACCESS) == 0;
+  }
 
  private:
   static constexpr uid_t userId = 65534;
