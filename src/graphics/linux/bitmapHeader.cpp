@@ -42,6 +42,7 @@ struct Info {
   std::int64_t height = 0;
   std::uint32_t bits = 0;
   std::uint32_t compression = plain;
+  std::uint32_t colors = 0;  // of the palette; 0 means all that the depth has
 };
 
 Info readOldInfo(std::span<const std::uint8_t> start) {
@@ -49,11 +50,16 @@ Info readOldInfo(std::span<const std::uint8_t> start) {
           plain};
 }
 
+bool hasAllowedPalette(const Info& info) {
+  return info.bits > 8 || info.colors <= 256;
+}
+
 // A negative height means that the rows go from the top down.
 Info readNewInfo(std::span<const std::uint8_t> start) {
   const auto width = static_cast<std::int32_t>(readLittleEndian(start, 18, 4));
   const auto height = static_cast<std::int32_t>(readLittleEndian(start, 22, 4));
-  return {width, std::llabs(height), readLittleEndian(start, 28, 2), readLittleEndian(start, 30, 4)};
+  return {width, std::llabs(height), readLittleEndian(start, 28, 2), readLittleEndian(start, 30, 4),
+          readLittleEndian(start, 46, 4)};
 }
 
 }  // namespace
@@ -69,7 +75,7 @@ std::optional<BitmapHeader> parseBitmapHeader(std::span<const std::uint8_t> star
     return std::nullopt;
   }
   const Info info = isNew ? readNewInfo(start) : readOldInfo(start);
-  if (!isAllowedSize(info.width, info.height) || !isAllowedDepth(info.bits)) {
+  if (!isAllowedSize(info.width, info.height) || !isAllowedDepth(info.bits) || !hasAllowedPalette(info)) {
     return std::nullopt;
   }
   const BitmapHeader header{static_cast<std::int32_t>(info.width), static_cast<std::int32_t>(info.height),
