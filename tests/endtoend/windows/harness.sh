@@ -85,8 +85,8 @@ wait_for_end() {  # SECONDS
 
 saver_has_ended() { ! kill -0 "$saver" 2>/dev/null; }
 
-start_parent() {
-  coproc PARENT { exec "$run" "$parent_program"; }
+start_parent() {  # [desktop]
+  coproc PARENT { exec "$run" "$parent_program" "$@"; }
   read -r -t 60 -u "${PARENT[0]}" parent_handle || { echo "the parent window does not start" >&2; exit 2; }
   parent_handle=${parent_handle%$'\r'}
 }
@@ -119,6 +119,10 @@ frames_differ() {
   screenshot frame-b
   [ "$(differing_pixels "$out/frame-a.png" "$out/frame-b.png")" != 0 ]
 }
+
+# Whether the saver still runs after the input that was sent before had its time: it takes a saver that ends
+# 40 milliseconds and two messages.
+saver_goes_on() { ! wait_until 2 saver_has_ended; }
 
 # Whether frames still come, and the saver runs.
 frames_go_on() { wait_until 10 frames_differ && ! saver_has_ended; }

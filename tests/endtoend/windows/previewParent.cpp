@@ -1,6 +1,7 @@
 // A window of another program, in which a preview is to run. It prints its handle and obeys lines on its
-// input: "child" prints the class, rectangle and visibility of what lives in it, "close" ends it in order,
-// "abort" at once.
+// input: "child" prints the class, rectangle and visibility of the saver that lives in it, and whether it
+// answers; "close" ends it in order, "abort" at once. With the argument "desktop" the window is the
+// desktop's, and "close" closes the saver's window in it.
 #include <cstdio>
 #include <iostream>
 #include <string>
@@ -36,18 +37,27 @@ HWND makeParent() {
                          30, clientWidth, clientHeight, nullptr, nullptr, description.hInstance, nullptr);
 }
 
+HWND saverIn(HWND parent) {
+  return FindWindowExA(parent, nullptr, "WindowsScreenSaverClass", nullptr);
+}
+
+bool answers(HWND window) {
+  constexpr UINT patience = 5000;  // milliseconds
+  DWORD_PTR result = 0;
+  return SendMessageTimeoutA(window, WM_NULL, 0, 0, SMTO_ABORTIFHUNG, patience, &result) != 0;
+}
+
 void describeChild(HWND parent) {
-  HWND child = GetWindow(parent, GW_CHILD);
+  HWND child = saverIn(parent);
   if (!child) {
     std::puts("none");
   } else {
-    char name[64] = "";
-    GetClassNameA(child, name, sizeof(name));
     RECT area{};
     GetWindowRect(child, &area);
     MapWindowPoints(nullptr, parent, reinterpret_cast<POINT*>(&area), 2);
-    std::printf("%s %ld,%ld %ldx%ld %s\n", name, area.left, area.top, area.right - area.left,
-                area.bottom - area.top, IsWindowVisible(child) ? "visible" : "hidden");
+    std::printf("%ld,%ld %ldx%ld %s %s\n", area.left, area.top, area.right - area.left,
+                area.bottom - area.top, IsWindowVisible(child) ? "visible" : "hidden",
+                answers(child) ? "alive" : "hung");
   }
   std::fflush(stdout);
 }
@@ -62,20 +72,32 @@ void obey(HWND parent) {
       break;
     }
   }
-  PostMessageA(parent, WM_CLOSE, 0, 0);
 }
 
-}  // namespace
-
-int main() {
-  HWND parent = makeParent();
-  std::printf("%llu\n", static_cast<unsigned long long>(reinterpret_cast<ULONG_PTR>(parent)));
-  std::fflush(stdout);
-  std::thread listener(obey, parent);
+void runMessages() {
   MSG message{};
   while (GetMessageA(&message, nullptr, 0, 0) > 0) {
     DispatchMessageA(&message);
   }
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  const bool onDesktop = argc > 1 && std::string(argv[1]) == "desktop";
+  HWND parent = onDesktop ? GetDesktopWindow() : makeParent();
+  std::printf("%llu\n", static_cast<unsigned long long>(reinterpret_cast<ULONG_PTR>(parent)));
+  std::fflush(stdout);
+  if (onDesktop) {
+    obey(parent);
+    PostMessageA(saverIn(parent), WM_CLOSE, 0, 0);
+    return 0;
+  }
+  std::thread listener([parent] {
+    obey(parent);
+    PostMessageA(parent, WM_CLOSE, 0, 0);
+  });
+  runMessages();
   listener.join();
   return 0;
 }
