@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "harness/privateFolders.h"
+#include "host/hostEnvironment.h"
 #include "host/recordingSaver.h"
 #include "host/windowProcedure.h"
 #include "windowharness/testWindow.h"
@@ -36,6 +37,7 @@ class WindowProcedureTest : public PrivateFolders {
   RecordingSaver* saver();
 
   TestWindow window{100, 80};
+  HostEnvironment environment{window.handle()};
   static HostRecord record;
   static std::vector<Passed> passed;
 

@@ -1,4 +1,5 @@
 # What run_windows.sh stands on: a display, a Wine prefix, waiting for conditions, looking at the screen and the log.
+# shellcheck shell=bash
 # It is sourced, with `root`, `out`, `program` and `parent_program` set.
 run=$root/tests/wine/run
 screen=800x600

@@ -1,12 +1,12 @@
 #!/usr/bin/env bash
 # Starts Lunaria.scr in every mode, under Wine on a display of its own, and looks at what a user would see.
-# Usage: tests/endtoend/windows/run_windows.sh [BUILD_FOLDER]   (default: build/windows)
-# Screenshots and logs of the run stay in BUILD_FOLDER/endtoend.
+# Usage: tests/endtoend/windows/run_windows.sh [PROGRAM]   (default: build/windows/bin/Lunaria.scr)
+# Screenshots and logs of the run stay in the build folder, in endtoend.
 set -u
 here=$(cd "$(dirname "$0")" && pwd)
 root=$(cd "$here/../../.." && pwd)
-build=${1:-$root/build/windows}
-program=$build/src/host/windows/Lunaria.scr
+program=$(realpath "${1:-$root/build/windows/bin/Lunaria.scr}")
+build=$(dirname "$(dirname "$program")")
 parent_program=$build/tests/endtoend/windows/preview_parent.exe
 out=$build/endtoend
 . "$here/harness.sh"
