@@ -1,9 +1,11 @@
 // Implements the loading of bitmaps by SDL's reader.
 #include "graphics/linux/bitmapLoader.h"
 
+#include <algorithm>
 #include <array>
+#include <cstddef>
 #include <new>
-#include <optional>
+#include <utility>
 
 #include <SDL_endian.h>
 #include <SDL_rwops.h>
@@ -51,21 +53,25 @@ std::uint32_t channelOf(std::uint32_t pixel, std::uint32_t mask, unsigned shift,
   return value & 0xff;
 }
 
-std::uint32_t colorOf(std::uint32_t pixel, const SDL_PixelFormat& format) {
-  if (format.palette != nullptr) {
-    if (pixel >= static_cast<std::uint32_t>(format.palette->ncolors)) {
-      return 0xff000000U;
-    }
-    const SDL_Color& color = format.palette->colors[pixel];
-    return 0xff000000U | (std::uint32_t{color.r} << 16) | (std::uint32_t{color.g} << 8) | color.b;
-  }
-  return 0xff000000U | (channelOf(pixel, format.Rmask, format.Rshift, format.Rloss) << 16) |
-         (channelOf(pixel, format.Gmask, format.Gshift, format.Gloss) << 8) |
-         channelOf(pixel, format.Bmask, format.Bshift, format.Bloss);
+std::uint32_t opaque(std::uint32_t word) {
+  return 0xff000000U | word;
 }
 
-void copyPixels(const SDL_Surface& source, Surface& target) {
-  const auto bytesPerPixel = static_cast<std::size_t>(source.format->BytesPerPixel);
+// The palette's colours as they stand in a surface; numbers that it does not have are black.
+std::array<std::uint32_t, 256> wordsOf(const SDL_Palette& palette) {
+  std::array<std::uint32_t, 256> words{};
+  words.fill(opaque(0));
+  const auto count = std::min(words.size(), static_cast<std::size_t>(palette.ncolors));
+  for (std::size_t i = 0; i < count; ++i) {
+    const SDL_Color& color = palette.colors[i];
+    words[i] = opaque((std::uint32_t{color.r} << 16) | (std::uint32_t{color.g} << 8) | color.b);
+  }
+  return words;
+}
+
+// wordOf makes a surface's word of a picture's pixel.
+template <std::size_t bytesPerPixel, class WordOf>
+void copyPixels(const SDL_Surface& source, Surface& target, WordOf wordOf) {
   for (int y = 0; y < source.h; ++y) {
     const auto* from = static_cast<const std::uint8_t*>(source.pixels) + std::ptrdiff_t{y} * source.pitch;
     std::uint32_t* to = target.pixels() + static_cast<std::size_t>(y) * target.stride();
@@ -74,8 +80,46 @@ void copyPixels(const SDL_Surface& source, Surface& target) {
       for (std::size_t i = 0; i < bytesPerPixel; ++i) {
         pixel |= std::uint32_t{*from++} << (8 * i);
       }
-      to[x] = colorOf(pixel, *source.format);
+      to[x] = wordOf(pixel);
     }
+  }
+}
+
+template <std::size_t bytesPerPixel>
+void copyColors(const SDL_Surface& source, Surface& target) {
+  const SDL_PixelFormat& format = *source.format;
+  if (format.Rmask == 0xff0000 && format.Gmask == 0xff00 && format.Bmask == 0xff) {
+    copyPixels<bytesPerPixel>(source, target, opaque);
+    return;
+  }
+  copyPixels<bytesPerPixel>(source, target, [&format](std::uint32_t pixel) {
+    return opaque((channelOf(pixel, format.Rmask, format.Rshift, format.Rloss) << 16) |
+                  (channelOf(pixel, format.Gmask, format.Gshift, format.Gloss) << 8) |
+                  channelOf(pixel, format.Bmask, format.Bshift, format.Bloss));
+  });
+}
+
+// False for a kind of pixels that no bitmap file has.
+bool copyPicture(const SDL_Surface& source, Surface& target) {
+  switch (source.format->BytesPerPixel) {
+    case 1:
+      if (source.format->palette == nullptr) {
+        return false;
+      }
+      copyPixels<1>(source, target,
+                    [words = wordsOf(*source.format->palette)](std::uint32_t pixel) { return words[pixel]; });
+      return true;
+    case 2:
+      copyColors<2>(source, target);
+      return true;
+    case 3:
+      copyColors<3>(source, target);
+      return true;
+    case 4:
+      copyColors<4>(source, target);
+      return true;
+    default:
+      return false;
   }
 }
 
@@ -89,7 +133,9 @@ LoadedBitmap load(Stream stream) {
   }
   try {
     auto surface = std::make_unique<Surface>(picture->w, picture->h);
-    copyPixels(*picture, *surface);
+    if (!copyPicture(*picture, *surface)) {
+      return failure(BitmapError::invalidData);
+    }
     return {std::move(surface), BitmapError::none};
   } catch (const std::bad_alloc&) {
     return failure(BitmapError::outOfMemory);
