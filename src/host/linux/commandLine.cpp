@@ -35,6 +35,7 @@ class Reader {
     while (!m_error && m_next < m_arguments.size()) {
       readOption(m_arguments[m_next++]);
     }
+    takeWindowOfEnvironment();
     if (m_answer) {
       return HostRequest{.mode = *m_answer, .window = {}};
     }
@@ -111,12 +112,14 @@ class Reader {
   }
 
   void readRoot() {
-    if (m_request.mode == Mode::preview) {
-      return;
+    if (m_request.mode != Mode::preview) {
+      setMode(Mode::foreignRun);
     }
-    m_request.mode = Mode::foreignRun;
-    m_request.window.reset();
-    if (!m_screenSaverWindow) {
+  }
+
+  // Only now is it known whether the environment's window counts.
+  void takeWindowOfEnvironment() {
+    if (m_request.mode != Mode::foreignRun || !m_screenSaverWindow) {
       return;
     }
     m_request.window = windowIdOf(*m_screenSaverWindow);

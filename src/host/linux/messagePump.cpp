@@ -5,7 +5,8 @@
 #include <utility>
 
 #include <poll.h>
-#include <sys/timerfd.h>
+
+#include "host/linux/windowTimers.h"
 
 namespace {
 
@@ -34,36 +35,11 @@ void MessagePump::post(UINT message, WPARAM wParam, LPARAM lParam) {
   m_messages.push_back({message, wParam, lParam});
 }
 
-std::uintptr_t MessagePump::startTimer(std::uintptr_t id, unsigned milliseconds) {
-  stopTimer(id);
-  FileDescriptor timer(::timerfd_create(CLOCK_MONOTONIC, TFD_NONBLOCK | TFD_CLOEXEC));
-  const unsigned period = std::max(milliseconds, 1U);
-  const timespec step{static_cast<time_t>(period / 1000), static_cast<long>(period % 1000) * 1000000};
-  const itimerspec times{step, step};
-  if (id == 0 || !timer.isOpen() || ::timerfd_settime(timer.get(), 0, &times, nullptr) != 0) {
-    return 0;
-  }
-  const int descriptor = timer.get();
-  m_timers.push_back({id, std::move(timer)});
-  watch(descriptor, [this, id, descriptor] { tick(id, descriptor); });
-  return id;
-}
-
-void MessagePump::stopTimer(std::uintptr_t id) {
-  const auto found =
-      std::find_if(m_timers.begin(), m_timers.end(), [&](const Timer& t) { return t.id == id; });
-  if (found == m_timers.end()) {
-    return;
-  }
-  unwatch(found->descriptor.get());
-  m_timers.erase(found);
-  std::erase_if(m_messages, [&](const Message& m) { return m.message == WM_TIMER && m.wParam == id; });
-}
-
-void MessagePump::tick(std::uintptr_t id, int descriptor) {
-  std::uint64_t periods = 0;  // that have passed since it was read; however many, one message tells it
-  if (::read(descriptor, &periods, sizeof periods) == static_cast<ssize_t>(sizeof periods)) {
-    post(WM_TIMER, id);
+void MessagePump::collectTicks() {
+  for (const auto& timer : windowTimers().all()) {
+    if (timer.hasTicked()) {
+      post(WM_TIMER, timer.id);
+    }
   }
 }
 
@@ -119,14 +95,19 @@ bool MessagePump::waitAndCall(const DisplayLink& display, int milliseconds) {
   for (const auto& watch : m_watches) {
     waits.push_back({watch.descriptor, POLLIN, 0});
   }
+  for (const auto& timer : windowTimers().all()) {
+    waits.push_back({timer.descriptor.get(), POLLIN, 0});
+  }
   if (::poll(waits.data(), waits.size(), milliseconds) <= 0) {
     return false;
   }
-  for (std::size_t i = 1; i < waits.size(); ++i) {
+  const std::size_t watches = m_watches.size();
+  for (std::size_t i = 1; i <= watches; ++i) {
     if (waits[i].revents != 0) {
       callWatch(waits[i].fd);
     }
   }
+  collectTicks();
   return true;
 }
 

@@ -7,7 +7,6 @@
 #include <string>
 #include <vector>
 
-#include "host/linux/fileDescriptor.h"
 #include "host/linux/windowKind.h"
 #include "host/platform.h"
 
@@ -42,11 +41,6 @@ class MessagePump {
   // Hands a message to the procedure at once, and later, in the order of posting.
   LRESULT send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
   void post(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
-
-  // A WM_TIMER every so many milliseconds (at least 1). Periods that have passed unseen are merged into one
-  // message. Returns the id; 0 where the system gives no timer. A timer of this id starts anew.
-  std::uintptr_t startTimer(std::uintptr_t id, unsigned milliseconds);
-  void stopTimer(std::uintptr_t id);
 
   // The window wants a WM_PAINT, or has had one.
   void invalidate() { m_isInvalid = true; }
@@ -86,23 +80,19 @@ class MessagePump {
     int descriptor;
     std::function<void()> onReadable;
   };
-  struct Timer {
-    std::uintptr_t id;
-    FileDescriptor descriptor;
-  };
 
   void dispatchNext();
   // Waits until something can be read, for at most so many milliseconds (-1: for ever). True when it was.
   bool waitAndCall(const DisplayLink& display, int milliseconds);
   void callWatch(int descriptor);
-  void tick(std::uintptr_t id, int descriptor);
+  // Posts a WM_TIMER for each timer that has ticked.
+  void collectTicks();
 
   xplWindowHandle m_window;
   WindowKind m_kind;
   Procedure m_procedure;
   std::deque<Message> m_messages;
   std::vector<Watch> m_watches;
-  std::vector<Timer> m_timers;
   bool m_isInvalid = false;
   bool m_isDestroyed = false;
   bool m_hasQuit = false;

@@ -2,17 +2,15 @@
 #include <iostream>
 
 #include "host/linux/messagePump.h"
+#include "host/linux/windowTimers.h"
 #include "host/platform.h"
 
 std::uintptr_t xplStartTimer(xplWindowHandle, std::uintptr_t wantedId, unsigned milliseconds) {
-  MessagePump* pump = MessagePump::current();
-  return pump != nullptr ? pump->startTimer(wantedId, milliseconds) : 0;
+  return windowTimers().start(wantedId, milliseconds);
 }
 
 void xplStopTimer(xplWindowHandle, std::uintptr_t id) {
-  if (MessagePump* pump = MessagePump::current()) {
-    pump->stopTimer(id);
-  }
+  windowTimers().stop(id);
 }
 
 void xplInvalidateClientArea(xplWindowHandle) {
