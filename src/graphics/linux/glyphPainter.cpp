@@ -83,6 +83,8 @@ void paintGlyph(Surface& surface, std::int64_t penX, std::int64_t baselineY, con
     const std::uint8_t* source = glyph.bits.data() + static_cast<std::size_t>(row) * glyph.pitch;
     std::uint32_t* target =
         surface.pixels() + static_cast<std::size_t>(top + row) * surface.stride() + (left + columns.first);
+    surface.touched(static_cast<int>(top + row), static_cast<int>(left + columns.first),
+                    static_cast<int>(left + columns.end));
     if (glyph.antialiased) {
       paintAntialiased(target, source + columns.first, columns.end - columns.first, text);
     } else {

@@ -13,6 +13,7 @@ class HeapPixelMemory : public PixelMemory {
   HeapPixelMemory(int width, int height);
 
   std::uint32_t* pixels() override { return m_pixels.data(); }
+  const std::uint32_t* pixels() const override { return m_pixels.data(); }
   std::size_t stride() const override { return static_cast<std::size_t>(m_width); }
   int width() const override { return m_width; }
   int height() const override { return m_height; }

@@ -49,6 +49,8 @@ void MemoryWindow::copyContent(PixelMemory& memory) {
   copyPart(m_shown.memory(), memory, {0, 0, m_shown.width(), m_shown.height()});
 }
 
-void MemoryWindow::present(PixelMemory& memory, const xplEdges& part) {
-  copyPart(memory, m_shown.memory(), part);
+void MemoryWindow::present(PixelMemory& memory, std::span<const xplEdges> parts) {
+  for (const xplEdges& part : parts) {
+    copyPart(memory, m_shown.memory(), part);
+  }
 }

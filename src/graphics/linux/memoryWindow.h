@@ -2,6 +2,7 @@
 #pragma once
 
 #include <memory>
+#include <span>
 #include <vector>
 
 #include "graphics/linux/nativeWindow.h"
@@ -16,7 +17,7 @@ class MemoryWindow : public xpliNativeWindow {
   std::vector<xplEdges> monitors() const override { return m_monitors; }
   std::unique_ptr<PixelMemory> makePixelMemory(int width, int height) override;
   void copyContent(PixelMemory& memory) override;
-  void present(PixelMemory& memory, const xplEdges& part) override;
+  void present(PixelMemory& memory, std::span<const xplEdges> parts) override;
   void waitUntilShown() override {}
   int dotsPerInch() const override { return 96; }
 

@@ -7,6 +7,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <span>
 #include <vector>
 
 #include "graphics/linux/pixelMemory.h"
@@ -28,9 +29,12 @@ class xpliNativeWindow {
   virtual std::unique_ptr<PixelMemory> makePixelMemory(int width, int height) = 0;
   // Copies what the window shows now into memory of the window's own size.
   virtual void copyContent(PixelMemory& memory) = 0;
-  // Shows this part of the memory (which came from makePixelMemory) at the same place of the window. The
+  // Shows these parts of the memory (which came from makePixelMemory) at the same places of the window. The
   // display may go on reading the memory until waitUntilShown() returns: whoever writes into it waits first.
-  virtual void present(PixelMemory& memory, const xplEdges& part) = 0;
+  virtual void present(PixelMemory& memory, std::span<const xplEdges> parts) = 0;
+  // True once after the window has lost what was presented to it (it was covered, say): all of it is needed
+  // again.
+  virtual bool takeContentLost() { return false; }
   virtual void waitUntilShown() = 0;
   // Dots per inch for text, at least 1.
   virtual int dotsPerInch() const = 0;

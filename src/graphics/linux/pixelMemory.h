@@ -11,6 +11,7 @@ class PixelMemory {
   // Row by row from the top, stride() words to a row; 32 bits a pixel, blue in the lowest byte. Aligned to 16
   // bytes.
   virtual std::uint32_t* pixels() = 0;
+  virtual const std::uint32_t* pixels() const = 0;
   virtual std::size_t stride() const = 0;  // words, at least width()
   virtual int width() const = 0;           // pixels, at least 0
   virtual int height() const = 0;          // pixels, at least 0

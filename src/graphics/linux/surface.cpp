@@ -2,6 +2,8 @@
 #include "graphics/linux/surface.h"
 
 #include <algorithm>
+#include <array>
+#include <cstring>
 #include <utility>
 
 #include "graphics/linux/heapPixelMemory.h"
@@ -22,7 +24,12 @@ xplColor Surface::getPixel(int x, int y) const {
 void Surface::setPixel(int x, int y, xplColor color) {
   if (x >= 0 && y >= 0 && x < m_width && y < m_height) {
     row(y)[x] = wordOfColor(color);
+    touched(y, x, x + 1);
   }
+}
+
+void Surface::trackChanges() {
+  m_changes = std::make_unique<TileChanges>(m_width, m_height);
 }
 
 xplEdges Surface::clipped(const xplEdges& edges) const {
@@ -33,8 +40,19 @@ xplEdges Surface::clipped(const xplEdges& edges) const {
 void Surface::fillRow(int y, int left, int right, std::uint32_t word) {
   left = std::max(left, 0);
   right = std::min(right, m_width);
-  if (y >= 0 && y < m_height && left < right) {
+  if (y < 0 || y >= m_height || left >= right) {
+    return;
+  }
+  if (m_changes == nullptr) {
     std::fill(row(y) + left, row(y) + right, word);
+    return;
+  }
+  std::array<std::uint32_t, TileChanges::tileWidth> piece;
+  piece.fill(word);
+  while (left < right) {
+    const int count = std::min(right - left, TileChanges::tileWidth - left % TileChanges::tileWidth);
+    copyToRow(y, left, piece.data(), count);
+    left += count;
   }
 }
 
@@ -63,13 +81,35 @@ void Surface::blit(int x, int y, const Surface& source, int sourceX, int sourceY
     const std::uint32_t* from = source.row(static_cast<int>(sourceRow)) + left;
     std::uint32_t* to = row(static_cast<int>(sourceRow + shiftY)) + (left + shiftX);
     if (!transparentColor) {
-      std::copy_n(from, right - left, to);
+      copyToRow(static_cast<int>(sourceRow + shiftY), static_cast<int>(left + shiftX), from,
+                static_cast<int>(right - left));
       continue;
     }
+    touched(static_cast<int>(sourceRow + shiftY), static_cast<int>(left + shiftX),
+            static_cast<int>(right + shiftX));
     const std::uint32_t transparent = wordOfColor(*transparentColor);
     for (Wide column = 0; column < right - left; ++column) {
       to[column] = from[column] == transparent ? to[column] : from[column];
     }
+  }
+}
+
+// Most of what is drawn is there already from the frame before: to look is cheaper than to write, and leaves
+// unmarked what stays the same.
+void Surface::copyToRow(int y, int left, const std::uint32_t* from, int count) {
+  std::uint32_t* const to = row(y) + left;
+  if (m_changes == nullptr) {
+    std::copy_n(from, count, to);
+    return;
+  }
+  for (int done = 0; done < count;) {
+    const int piece = std::min(count - done, TileChanges::tileWidth - (left + done) % TileChanges::tileWidth);
+    const std::size_t bytes = static_cast<std::size_t>(piece) * sizeof(std::uint32_t);
+    if (std::memcmp(to + done, from + done, bytes) != 0) {
+      std::memcpy(to + done, from + done, bytes);
+      m_changes->mark(y, left + done, left + done + piece);
+    }
+    done += piece;
   }
 }
 

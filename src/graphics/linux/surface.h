@@ -5,18 +5,13 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <utility>
 #include <vector>
 
 #include "graphics/color.h"
+#include "graphics/linux/edges.h"
 #include "graphics/linux/pixelMemory.h"
-
-// A rectangle by its edges; right and bottom are exclusive.
-struct xplEdges {
-  int left = 0;
-  int top = 0;
-  int right = 0;
-  int bottom = 0;
-};
+#include "graphics/linux/tileChanges.h"
 
 // Only this folder may see the memory behind a surface: what is drawn is going to be recorded, so everything
 // else draws through the operations. Every operation clips to the surface, and gives the pixels that GDI
@@ -49,9 +44,21 @@ class Surface {
   // All pixels, row by row from the top without gaps: 0xffRRGGBB each.
   void copyTo(std::vector<std::uint32_t>& pixels) const;
 
-  // For this folder only: the pixels, row by row, stride() words to a row.
+  // From now on the surface knows what has changed since it was shown last; see TileChanges.
+  void trackChanges();
+  // Null unless they are tracked.
+  TileChanges* changes() { return m_changes.get(); }
+
+  // For this folder only: the pixels, row by row, stride() words to a row. Who writes to them says where:
+  // touched().
   std::uint32_t* pixels() { return m_memory->pixels(); }
-  const std::uint32_t* pixels() const { return m_memory->pixels(); }
+  const std::uint32_t* pixels() const { return std::as_const(*m_memory).pixels(); }
+  // [left, right) of a row, which must lie on the surface, may have changed.
+  void touched(int y, int left, int right) {
+    if (m_changes != nullptr) {
+      m_changes->mark(y, left, right);
+    }
+  }
   std::size_t stride() const { return m_memory->stride(); }
   PixelMemory& memory() { return *m_memory; }
 
@@ -60,10 +67,13 @@ class Surface {
   xplEdges clipped(const xplEdges& edges) const;
   std::uint32_t* row(int y) { return pixels() + static_cast<std::size_t>(y) * stride(); }
   const std::uint32_t* row(int y) const { return pixels() + static_cast<std::size_t>(y) * stride(); }
+  // Copies `count` pixels to [left, left + count) of a row, which must lie on the surface.
+  void copyToRow(int y, int left, const std::uint32_t* from, int count);
   // Fills [left, right) of a row, clipped.
   void fillRow(int y, int left, int right, std::uint32_t word);
 
   std::unique_ptr<PixelMemory> m_memory;
+  std::unique_ptr<TileChanges> m_changes;  // null unless changes are tracked
   int m_width;
   int m_height;
 };

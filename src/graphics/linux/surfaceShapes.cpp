@@ -185,6 +185,7 @@ void Surface::stretchFrom(const Surface& source) {
   for (int y = 0; y < m_height; ++y) {
     const std::uint32_t* from = source.row(rows[static_cast<std::size_t>(y)]);
     std::uint32_t* to = row(y);
+    touched(y, 0, m_width);
     for (const int column : columns) {
       *to++ = from[column];
     }

@@ -33,6 +33,7 @@ xplWindowLinux::xplWindowLinux(xplWindowHandle handle)
                  unsignedEdge(m_windowRect.right));
   if (m_handle != nullptr) {
     m_backBuffer = makeSurfaceOfContent(*m_handle, getWidth(), getHeight());
+    m_backBuffer->trackChanges();
     m_target = m_backBuffer.get();
   }
 }
@@ -60,17 +61,25 @@ xplDrawingToolsLinux& xplWindowLinux::tools() {
 
 void xplWindowLinux::flush() {
   if (m_backBuffer != nullptr && useBackBuffer) {
-    waitUntilShown();
-    m_handle->present(m_backBuffer->memory(), {0, 0, m_backBuffer->width(), m_backBuffer->height()});
+    show(*m_backBuffer);
+  }
+}
+
+void xplWindowLinux::show(Surface& surface) {
+  waitUntilShown();
+  if (m_handle->takeContentLost()) {
+    surface.changes()->forgetShown();
+  }
+  const auto& changed = surface.changes()->takeChanged(surface.memory());
+  if (!changed.empty()) {
+    m_handle->present(surface.memory(), changed);
     m_isBeingShown = true;
   }
 }
 
 void xplWindowLinux::drawn() {
   if (m_directSurface != nullptr && !useBackBuffer) {
-    waitUntilShown();
-    m_handle->present(m_directSurface->memory(), {0, 0, m_directSurface->width(), m_directSurface->height()});
-    m_isBeingShown = true;
+    show(*m_directSurface);
   }
 }
 
@@ -121,10 +130,14 @@ void xplWindowLinux::setUseBackBuffer(bool use) {
   }
   waitUntilShown();
   if (use) {
-    m_directSurface.reset();
+    if (m_directSurface != nullptr) {
+      m_directSurface.reset();
+      m_backBuffer->changes()->forgetShown();  // the window shows what was drawn on it directly
+    }
     m_target = m_backBuffer.get();
     return;
   }
   m_directSurface = makeSurfaceOfContent(*m_handle, getWidth(), getHeight());
+  m_directSurface->trackChanges();
   m_target = m_directSurface.get();
 }

@@ -39,6 +39,8 @@ class xplWindowLinux : public xplWindowBase {
 
  private:
   void waitUntilShown();
+  // Presents what has changed on a surface that tracks its changes.
+  void show(Surface& surface);
 
   xplWindowHandle m_handle;
   xplEdges m_windowRect;                  // screen coordinates, read once

@@ -44,28 +44,34 @@ std::unique_ptr<PixelMemory> FramePresenter::makePixelMemory(int width, int heig
   return std::make_unique<HeapPixelMemory>(width, height);
 }
 
-void FramePresenter::present(PixelMemory& memory, const xplEdges& part) {
-  const xplEdges visible = clipped(part, memory);
-  if (visible.right <= visible.left || visible.bottom <= visible.top || !m_connection.isUsable()) {
+void FramePresenter::present(PixelMemory& memory, std::span<const xplEdges> parts) {
+  if (parts.empty() || !m_connection.isUsable()) {
     return;
   }
-  if (auto* shared = dynamic_cast<SharedPixelMemory*>(&memory)) {
-    presentShared(shared->segment(), memory, visible);
-  } else {
-    presentInPieces(memory, visible);
+  auto* const shared = dynamic_cast<SharedPixelMemory*>(&memory);
+  for (const xplEdges& part : parts) {
+    const xplEdges visible = clipped(part, memory);
+    if (visible.right <= visible.left || visible.bottom <= visible.top) {
+      continue;
+    }
+    if (shared != nullptr) {
+      presentShared(shared->segment(), memory, visible, &part == &parts.back());
+    } else {
+      presentInPieces(memory, visible);
+    }
   }
   xcb_flush(m_connection.get());
 }
 
-void FramePresenter::presentShared(std::uint32_t segment, const PixelMemory& memory, const xplEdges& part) {
-  constexpr std::uint8_t tellWhenRead = 1;
+void FramePresenter::presentShared(std::uint32_t segment, const PixelMemory& memory, const xplEdges& part,
+                                   bool tellWhenRead) {
   xcb_shm_put_image(m_connection.get(), m_window, m_context, static_cast<std::uint16_t>(memory.width()),
                     static_cast<std::uint16_t>(memory.height()), static_cast<std::uint16_t>(part.left),
                     static_cast<std::uint16_t>(part.top), static_cast<std::uint16_t>(part.right - part.left),
                     static_cast<std::uint16_t>(part.bottom - part.top), static_cast<std::int16_t>(part.left),
                     static_cast<std::int16_t>(part.top), static_cast<std::uint8_t>(m_format.depth()),
-                    XCB_IMAGE_FORMAT_Z_PIXMAP, tellWhenRead, segment, 0);
-  ++m_unreadShared;
+                    XCB_IMAGE_FORMAT_Z_PIXMAP, tellWhenRead ? 1 : 0, segment, 0);
+  m_unreadShared += tellWhenRead ? 1 : 0;
 }
 
 void FramePresenter::presentInPieces(PixelMemory& memory, const xplEdges& part) {

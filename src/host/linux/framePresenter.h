@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <vector>
 
 #include "graphics/linux/pixelMemory.h"
@@ -18,8 +19,8 @@ class FramePresenter {
 
   // Memory that present() shows best: shared with the display where that can be had.
   std::unique_ptr<PixelMemory> makePixelMemory(int width, int height);
-  // Sends this part of the memory to the same place of the window.
-  void present(PixelMemory& memory, const xplEdges& part);
+  // Sends these parts of the memory to the same places of the window.
+  void present(PixelMemory& memory, std::span<const xplEdges> parts);
 
   // Fills a rectangle of the window with black.
   void blacken(const xcb_rectangle_t& rectangle);
@@ -33,7 +34,9 @@ class FramePresenter {
   bool hear(const xcb_generic_event_t& event);
 
  private:
-  void presentShared(std::uint32_t segment, const PixelMemory& memory, const xplEdges& part);
+  // tellWhenRead: the display answers once it has read this part and those before it.
+  void presentShared(std::uint32_t segment, const PixelMemory& memory, const xplEdges& part,
+                     bool tellWhenRead);
   void presentInPieces(PixelMemory& memory, const xplEdges& part);
   void sendRows(PixelMemory& memory, const xplEdges& part, int top, int rows);
 

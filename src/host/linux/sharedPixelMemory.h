@@ -18,6 +18,7 @@ class SharedPixelMemory : public PixelMemory {
   SharedPixelMemory& operator=(const SharedPixelMemory&) = delete;
 
   std::uint32_t* pixels() override { return static_cast<std::uint32_t*>(m_address); }
+  const std::uint32_t* pixels() const override { return static_cast<const std::uint32_t*>(m_address); }
   std::size_t stride() const override { return static_cast<std::size_t>(m_width); }
   int width() const override { return m_width; }
   int height() const override { return m_height; }

@@ -124,6 +124,7 @@ void X11Link::hearError(const xcb_generic_error_t& error) {
 
 void X11Link::hearExposure(const xcb_expose_event_t& event) {
   if (event.window == m_window.windowId() && event.count == 0) {
+    m_window.loseContent();
     eraseOnce();
     m_window.blackenOutside(m_windowWidth, m_windowHeight);
     m_pump.invalidate();

@@ -30,9 +30,9 @@ void X11Window::copyContent(PixelMemory& memory) {
                     m_description.format, memory);
 }
 
-void X11Window::present(PixelMemory& memory, const xplEdges& part) {
+void X11Window::present(PixelMemory& memory, std::span<const xplEdges> parts) {
   if (m_exists) {
-    m_presenter.present(memory, part);
+    m_presenter.present(memory, parts);
   }
 }
 

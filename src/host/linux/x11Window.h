@@ -2,6 +2,8 @@
 #pragma once
 
 #include <memory>
+#include <span>
+#include <utility>
 #include <vector>
 
 #include "graphics/linux/nativeWindow.h"
@@ -36,7 +38,8 @@ class X11Window : public xpliNativeWindow {
   std::unique_ptr<PixelMemory> makePixelMemory(int width, int height) override;
   // Before the full run's window is shown this is what the screen shows.
   void copyContent(PixelMemory& memory) override;
-  void present(PixelMemory& memory, const xplEdges& part) override;
+  void present(PixelMemory& memory, std::span<const xplEdges> parts) override;
+  bool takeContentLost() override { return std::exchange(m_isContentLost, false); }
   void waitUntilShown() override { m_presenter.waitUntilRead(); }
   int dotsPerInch() const override { return m_dotsPerInch; }
 
@@ -45,6 +48,8 @@ class X11Window : public xpliNativeWindow {
   xcb_atom_t closeMessage() const { return m_description.closeMessage; }
   FramePresenter& presenter() { return m_presenter; }
 
+  // Tells that the display no longer has what was presented.
+  void loseContent() { m_isContentLost = true; }
   // Puts a window of our own on the screen.
   void show();
   // The window has become this large: what the saver does not draw on becomes black.
@@ -61,4 +66,5 @@ class X11Window : public xpliNativeWindow {
   FramePresenter m_presenter;
   bool m_isOnScreen;
   bool m_exists = true;
+  bool m_isContentLost = false;
 };

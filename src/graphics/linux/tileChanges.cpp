@@ -1,0 +1,79 @@
+// Finds the parts of a picture that have changed.
+#include "graphics/linux/tileChanges.h"
+
+#include <algorithm>
+
+namespace {
+
+std::size_t tilesIn(int length, int tileLength) {
+  return length <= 0 ? 0 : static_cast<std::size_t>((length - 1) / tileLength + 1);
+}
+
+std::uint64_t mixed(std::uint64_t hash, std::uint64_t value) {
+  hash = (hash ^ value) * 0x9e3779b97f4a7c15U;
+  return hash ^ (hash >> 32);
+}
+
+// Never 0, which stands for nothing shown.
+std::uint64_t hashOfPart(const PixelMemory& memory, const xplEdges& part) {
+  std::uint64_t hash = 1;
+  for (int y = part.top; y < part.bottom; ++y) {
+    const std::uint32_t* row = memory.pixels() + static_cast<std::size_t>(y) * memory.stride();
+    int x = part.left;
+    for (; x + 1 < part.right; x += 2) {
+      hash = mixed(hash, row[x] | (std::uint64_t{row[x + 1]} << 32));
+    }
+    if (x < part.right) {
+      hash = mixed(hash, row[x]);
+    }
+  }
+  return hash == 0 ? 1 : hash;
+}
+
+}  // namespace
+
+TileChanges::TileChanges(int width, int height)
+    : m_width(width),
+      m_height(height),
+      m_columns(tilesIn(width, tileWidth)),
+      m_rows(tilesIn(height, tileHeight)),
+      m_isMarked(m_columns * m_rows, 1),
+      m_shown(m_columns * m_rows, 0) {}
+
+void TileChanges::markAll() {
+  std::fill(m_isMarked.begin(), m_isMarked.end(), std::uint8_t{1});
+}
+
+void TileChanges::forgetShown() {
+  markAll();
+  std::fill(m_shown.begin(), m_shown.end(), std::uint64_t{0});
+}
+
+xplEdges TileChanges::edgesOf(std::size_t column, std::size_t row) const {
+  const int left = static_cast<int>(column) * tileWidth;
+  const int top = static_cast<int>(row) * tileHeight;
+  return {left, top, std::min(left + tileWidth, m_width), std::min(top + tileHeight, m_height)};
+}
+
+const std::vector<xplEdges>& TileChanges::takeChanged(const PixelMemory& memory) {
+  m_changed.clear();
+  for (std::size_t row = 0; row < m_rows; ++row) {
+    bool joins = false;  // the tile on the left has changed as well
+    for (std::size_t column = 0; column < m_columns; ++column) {
+      const std::size_t tile = row * m_columns + column;
+      const bool wasMarked = m_isMarked[tile] != 0;
+      m_isMarked[tile] = 0;
+      const xplEdges edges = edgesOf(column, row);
+      const std::uint64_t hash = wasMarked ? hashOfPart(memory, edges) : m_shown[tile];
+      const bool isChanged = hash != m_shown[tile];
+      m_shown[tile] = hash;
+      if (isChanged && joins) {
+        m_changed.back().right = edges.right;
+      } else if (isChanged) {
+        m_changed.push_back(edges);
+      }
+      joins = isChanged;
+    }
+  }
+  return m_changed;
+}

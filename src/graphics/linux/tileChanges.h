@@ -1,0 +1,49 @@
+// Knows which parts of a picture have changed since they were shown last.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+#include "graphics/linux/edges.h"
+#include "graphics/linux/pixelMemory.h"
+
+// The picture is cut into tiles. Whoever draws marks the tiles that he writes to; when the picture is to be
+// shown, the content of each marked tile is compared, by a hash, with what was shown there last. Of a sky
+// that is drawn anew in every frame little is ever different, and only that is sent to the display.
+class TileChanges {
+ public:
+  static constexpr int tileWidth = 64;   // pixels
+  static constexpr int tileHeight = 16;  // pixels
+
+  // Size of the picture in pixels. At first nothing counts as shown.
+  TileChanges(int width, int height);
+
+  // Pixels of a row may have changed; the range must lie in the picture.
+  void mark(int y, int left, int right) {
+    if (left < right) {
+      std::uint8_t* tiles = m_isMarked.data() + static_cast<std::size_t>(y / tileHeight) * m_columns;
+      for (int column = left / tileWidth; column <= (right - 1) / tileWidth; ++column) {
+        tiles[column] = 1;
+      }
+    }
+  }
+  void markAll();
+  // What was shown is lost: everything counts as changed, whatever it holds.
+  void forgetShown();
+
+  // The parts that differ from what was shown, in rows from the top, which now count as shown. Valid until
+  // the next call.
+  const std::vector<xplEdges>& takeChanged(const PixelMemory& memory);
+
+ private:
+  xplEdges edgesOf(std::size_t column, std::size_t row) const;
+
+  int m_width;
+  int m_height;
+  std::size_t m_columns;
+  std::size_t m_rows;
+  std::vector<std::uint8_t> m_isMarked;
+  std::vector<std::uint64_t> m_shown;  // the hash of each tile; 0 where nothing was shown
+  std::vector<xplEdges> m_changed;
+};
