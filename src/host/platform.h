@@ -64,8 +64,9 @@ class xplPaintScope {
   xplPaintScope& operator=(const xplPaintScope&) = delete;
 
  private:
-  xplWindowHandle m_window;
-  xplPaintData m_data;
+  // Not every platform needs both.
+  [[maybe_unused]] xplWindowHandle m_window;
+  [[maybe_unused]] xplPaintData m_data;
 };
 
 // The number under which the log shows a window; 0 for none.

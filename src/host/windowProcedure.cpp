@@ -66,8 +66,7 @@ void initializeOnce(xplWindowHandle window) {
   }
   logInfo().add("creating xplApp");
   const xplApp application;
-  const std::vector<std::string> arguments = application.arguments();
-  initializeGuarded(window, monitorIdFor(arguments));
+  initializeGuarded(window, monitorIdFor(application.arguments()));
   initializedOnce = true;
 }
 
