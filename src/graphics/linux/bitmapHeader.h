@@ -10,8 +10,8 @@
 struct BitmapHeader {
   // As many bytes from the start of a file as parseBitmapHeader looks at.
   static constexpr std::size_t size = 54;
-  static constexpr std::int32_t maxSide = 16384;                     // pixels
-  static constexpr std::uint64_t maxPixelBytes = 256 * 1024 * 1024;  // at 32 bits a pixel
+  static constexpr std::int32_t maxSide = 16384;                          // pixels
+  static constexpr std::uint64_t maxPixelBytes = std::uint64_t{1} << 28;  // at 32 bits a pixel
 
   std::int32_t width = 0;   // pixels, in [1, maxSide]
   std::int32_t height = 0;  // pixels, in [1, maxSide]

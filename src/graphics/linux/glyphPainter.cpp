@@ -52,8 +52,8 @@ void paintAntialiased(std::uint32_t* target, const std::uint8_t* levels, int cou
 
 void paintPlain(std::uint32_t* target, const std::uint8_t* row, int first, int count, std::uint32_t text) {
   for (int i = 0; i < count; ++i) {
-    const auto column = static_cast<std::size_t>(first + i);
-    if ((row[column / 8] & (0x80U >> (column % 8))) != 0) {
+    const int column = first + i;
+    if ((row[column / 8] & (0x80U >> (static_cast<unsigned>(column) % 8))) != 0) {
       target[i] = text;
     }
   }
