@@ -15,7 +15,7 @@ namespace {
 class ImageLoadTest : public ImageFixture {
  protected:
   std::string fileOf(const std::string& name, const std::string& content) const {
-    const std::string path = xplFileSystemMini::joinPath(root(), name);
+    std::string path = xplFileSystemMini::joinPath(root(), name);
     writeFile(path, content);
     return path;
   }
