@@ -21,7 +21,7 @@ std::size_t lastSeparator(std::string_view path) {
 
 // The folder of this name below the redirected root, made where missing.
 std::string redirected(const char* name) {
-  const std::string folder = xplFileSystemMini::joinPath(redirectedRoot(), name);
+  std::string folder = xplFileSystemMini::joinPath(redirectedRoot(), name);
   if (!xplFileSystemMini::folderExists(folder)) {
     xplFileSystemMini::createFolder(folder);
   }

@@ -83,9 +83,9 @@ xplLog::~xplLog() {
 }
 
 void xplLog::copyPreviousRun(bool copyIfUnfinished, bool copyIfErrors) const {
-  if (copyIfUnfinished && contains(m_path, startingText) && !contains(m_path, closingText)) {
-    copyToDesktop();
-  } else if (copyIfErrors && contains(m_path, errorMark)) {
+  const bool unfinished =
+      copyIfUnfinished && contains(m_path, startingText) && !contains(m_path, closingText);
+  if (unfinished || (copyIfErrors && contains(m_path, errorMark))) {
     copyToDesktop();
   }
 }

@@ -10,7 +10,8 @@ void logBlockOfCode::start(const char* word, const std::string& name) {
 // Deliberate: an end too many leaves the level below zero, and the entries after it lose their marks until
 // starts make up for it. The log shows the mistake; do not clamp the level at zero.
 void logBlockOfCode::end(const char* word, const std::string& name) {
-  const int m_IdentLevel = xplLogLevel::m_IdentLevel.fetch_sub(1, std::memory_order_relaxed) - 1;
+  [[maybe_unused]] const int m_IdentLevel =
+      xplLogLevel::m_IdentLevel.fetch_sub(1, std::memory_order_relaxed) - 1;
   xplAssert(m_IdentLevel >= 0, "#9541: reducing log ident to <0", "io.xplLog");
   logInfo().addf("%s: %s", word, name.c_str());
 }

@@ -25,7 +25,7 @@ std::string baseFolderOf(int scope) {
 }
 
 std::string makeCompanyFolder(const std::string& base) {
-  const std::string folder = xplFileSystemMini::joinPath(base, companyFolder);
+  std::string folder = xplFileSystemMini::joinPath(base, companyFolder);
   if (!xplFileSystemMini::fileExists(folder) && !xplFileSystemMini::folderExists(folder)) {
     xplFileSystemMini::createFolder(folder);
   }

@@ -62,7 +62,7 @@ std::string xdgFolder(const char* variable, const char* defaultName) {
 }
 
 std::string madeXdgFolder(const char* variable, const char* defaultName) {
-  const std::string folder = xdgFolder(variable, defaultName);
+  std::string folder = xdgFolder(variable, defaultName);
   if (!folder.empty() && !xplFileSystemMini::folderExists(folder)) {
     createFolders(folder);
   }
