@@ -38,7 +38,7 @@ TEST_F(SettingsLinux, UnreadableFileIsReportedAndNeverOverwritten) {
   if (!user.canUse(folder())) {
     GTEST_SKIP() << "no ordinary user can reach " << root();
   }
-  ASSERT_EQ(chmod(file().c_str(), 0), 0);
+  ASSERT_EQ(chmod(file().c_str(), 0200), 0);  // it could be written
   {
     xplSettings store(xplSettings::scopeUser);
     EXPECT_EQ(countEntries(couldNotOpen(), "ERROR"), 1);
