@@ -11,6 +11,10 @@ constexpr const char* startingText = "xplLog starting";
 constexpr const char* closingText = "xplLog closing";
 constexpr const char* errorMark = "ERROR>\t";
 
+// Deliberate: "becase" is spelt so, and nothing is disabled; later entries try to write as before. Whoever
+// watches the debugger's output searches for this text, so neither the spelling nor the promise is mended.
+constexpr const char* noFileNote = "Disabling log becase file does not exist at:";
+
 std::array<xplLogLevel*, 3> levels() {
   return {&logError(), &logWarning(), &logInfo()};
 }
@@ -64,7 +68,7 @@ xplLog::xplLog(const std::string& applicationName, bool copyIfUnfinished, bool c
   xplWriteToDebugger(("Log filename:" + m_path + "\n").c_str());
   logInfo().addf("Log filename:%s", m_path.c_str());
   if (!xplFileSystemMini::fileExists(m_path)) {
-    xplWriteToDebugger(("Disabling log becase file does not exist at:" + m_path + "\n").c_str());
+    xplWriteToDebugger((noFileNote + m_path + "\n").c_str());
   }
   logInfo().add("Application build timestamp:" __DATE__ "  " __TIME__);
   logInfo().add("Using the xpl support library, https://xpl.example/");
