@@ -37,6 +37,9 @@ class TnoctisWorld {
   // Draws everything that is shown on the window's current target, back to front.
   void draw();
 
+  // 0 in the normal run, -1 in the preview.
+  std::int32_t monitorId() const { return m_monitorId; }
+  const std::string& containerFolder() const { return m_containerFolder; }
   const xplRect<int>& windowRect() const { return m_windowRect; }
   const xplRect<int>& mainMonitorRect() const { return m_mainMonitorRect; }
   const TorvSpriteText& bottomLine() const { return m_bottomLine; }
