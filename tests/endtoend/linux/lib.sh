@@ -1,0 +1,107 @@
+# What the end-to-end scripts share. Source it; LUNARIA_BIN names the folder of the programs.
+set -u
+bin=${LUNARIA_BIN:?LUNARIA_BIN must name the folder of the programs}
+lunaria=$bin/lunaria
+helper=${LUNARIA_HELPER:-$bin/../tests/endtoend/linux/x11_helper}
+[ -x "$lunaria" ] || { echo "no program $lunaria: build the target lunaria" >&2; exit 1; }
+[ -x "$helper" ] || { echo "no program $helper: build the target x11_helper" >&2; exit 1; }
+
+passed=0
+failed=0
+work=$(mktemp -d)
+servers=()
+saver=
+unset XSCREENSAVER_WINDOW LUNARIA_NO_SHM XDG_RUNTIME_DIR XDG_CONFIG_HOME XDG_DATA_HOME XDG_CACHE_HOME
+export HOME=$work/home TMPDIR=$work/tmp SDL_AUDIODRIVER=dummy
+mkdir -m 700 "$HOME" "$TMPDIR"
+log=$TMPDIR/Lunaria.xplLog.txt
+
+finish() {
+  [ -n "$saver" ] && kill -KILL "$saver" 2>/dev/null
+  for server in "${servers[@]}"; do kill "$server" 2>/dev/null; done
+  wait 2>/dev/null
+  rm -rf "$work"
+  echo "$passed passed, $failed failed"
+  [ "$failed" -eq 0 ]
+}
+trap 'finish; exit $?' EXIT
+
+ok() { passed=$((passed + 1)); echo "ok      $1"; }
+not_ok() {
+  failed=$((failed + 1))
+  echo "FAILED  $1${2:+: $2}"
+  [ -s "$work/err" ] && sed 's/^/        stderr: /' "$work/err"
+}
+# check NAME COMMAND...: the command must succeed.
+check() { local name=$1; shift; if "$@"; then ok "$name"; else not_ok "$name" "$*"; fi; }
+# same NAME EXPECTED ACTUAL
+same() { if [ "$2" = "$3" ]; then ok "$1"; else not_ok "$1" "expected '$2', got '$3'"; fi; }
+# at_most NAME LIMIT ACTUAL
+at_most() { if [ "$3" -le "$2" ]; then ok "$1 ($3)"; else not_ok "$1" "$3 is more than $2"; fi; }
+
+# until_true SECONDS COMMAND...: waits until the command succeeds, at most so long.
+until_true() {
+  local end=$(($(date +%s%N) + $1 * 1000000000)); shift
+  until "$@" >/dev/null 2>&1; do
+    [ "$(date +%s%N)" -lt "$end" ] || return 1
+    sleep 0.02
+  done
+}
+gone() { ! kill -0 "$1" 2>/dev/null; }
+logged() { grep -qF -- "$1" "$log"; }
+
+# start_display GEOMETRY [OPTION...]: an Xvfb on a free display; sets DISPLAY and server.
+start_display() {
+  local geometry=$1 number=$work/display.${#servers[@]}; shift
+  Xvfb -displayfd 7 -screen 0 "$geometry" -nolisten tcp -noreset "$@" 7>"$number" 2>"$work/xvfb.log" &
+  server=$!
+  servers+=("$server")
+  until_true 10 test -s "$number" || { echo "Xvfb does not start:"; cat "$work/xvfb.log"; exit 1; }
+  DISPLAY=:$(cat "$number")
+  export DISPLAY
+}
+
+# start_saver ARGUMENT...: the program in the background; its process id is in saver.
+start_saver() {
+  rm -f "$log"
+  "$lunaria" "$@" >"$work/out" 2>"$work/err" &
+  saver=$!
+}
+# start_and_see WINDOW ARGUMENT...: and waits until the window (an id, or root) shows a sky.
+start_and_see() {
+  local window=$1; shift
+  start_saver "$@"
+  until_true 10 shows_sky "$window"
+}
+# await_saver SECONDS: sets code to the exit code once the program has ended, to "running" where it has not.
+await_saver() {
+  code=running
+  if until_true "$1" gone_or_zombie "$saver"; then wait "$saver"; code=$?; saver=; fi
+}
+gone_or_zombie() { [ "$(sed 's/.*) //; s/ .*//' "/proc/$1/stat" 2>/dev/null || echo Z)" = Z ]; }
+# end_saver [SIGNAL]: sends it, sets code and milliseconds until the program had gone.
+end_saver() {
+  local start; start=$(date +%s%N)
+  kill -"${1:-TERM}" "$saver"
+  wait "$saver"; code=$?
+  milliseconds=$((($(date +%s%N) - start) / 1000000))
+  saver=
+}
+
+# Colours that a window shows, and a word that changes with every frame.
+colours() { "$helper" pixels "$1" | cut -d' ' -f2; }
+frame() { "$helper" pixels "$1" | cut -d' ' -f1; }
+shows_sky() { [ "$(colours "$1")" -gt 20 ]; }
+frame_is_not() { [ "$(frame "$1")" != "$2" ]; }
+frames_advance() { until_true 5 frame_is_not "$1" "$(frame "$1")"; }
+
+# start_window GEOMETRY [DEPTH|input-only]: a window of another program; sets window. tell_window LINE.
+start_window() {
+  coproc foreign { "$helper" window "$@"; }
+  read -r window <&"${foreign[0]}"
+}
+tell_window() { echo "$1" >&"${foreign[1]}"; read -r answer <&"${foreign[0]}"; }
+end_window() { echo end >&"${foreign[1]}"; wait "$foreign_PID" 2>/dev/null; }
+
+# The lines of the log without levels, marks, stamps and blank lines.
+log_entries() { sed -n 's/^[A-Za-z]*>\t\(| \)*//p' "$log"; }
