@@ -1,7 +1,8 @@
 // A rectangle by its top-left corner and size; right and bottom are exclusive edges.
 #pragma once
 
-// What the edges of a rectangle of T are computed in: float edges are widened, as callers compare them in double.
+// What the edges of a rectangle of T are computed in: float edges are widened, as callers compare them in
+// double.
 template <class T>
 struct xplEdgeOf {
   using type = T;
