@@ -9,6 +9,25 @@
 #include "graphics/linux/heapPixelMemory.h"
 #include "graphics/linux/pixelWord.h"
 
+namespace {
+
+std::uint64_t mixed(std::uint64_t hash, std::uint64_t value) {
+  hash = (hash ^ value) * 0x9e3779b97f4a7c15U;
+  return hash ^ (hash >> 29);
+}
+
+// Numbers that stand for drawn content: equal ones mean equal pixels, and none is 0.
+std::uint64_t contentOfFill(std::uint32_t word) {
+  return mixed(1, word) | 1U;
+}
+
+std::uint64_t contentOfBlit(std::uint64_t sourceVersion, std::int64_t shiftX, std::int64_t shiftY) {
+  const std::uint64_t hash = mixed(mixed(2, sourceVersion), static_cast<std::uint64_t>(shiftX));
+  return (mixed(hash, static_cast<std::uint64_t>(shiftY)) & ~std::uint64_t{1}) | (std::uint64_t{1} << 63);
+}
+
+}  // namespace
+
 Surface::Surface(int width, int height) : Surface(std::make_unique<HeapPixelMemory>(width, height)) {}
 
 Surface::Surface(std::unique_ptr<PixelMemory> memory)
@@ -43,25 +62,67 @@ void Surface::fillRow(int y, int left, int right, std::uint32_t word) {
   if (y < 0 || y >= m_height || left >= right) {
     return;
   }
-  if (m_changes == nullptr) {
-    std::fill(row(y) + left, row(y) + right, word);
+  std::fill(row(y) + left, row(y) + right, word);
+  touched(y, left, right);
+}
+
+std::uint64_t Surface::nextVersion() {
+  static std::uint64_t version = 0;
+  return ++version;
+}
+
+// Most of what is drawn is there already from the frame before. A tile that the same content covered last is
+// left alone; of the others only what differs is written, for to look is cheaper than to write.
+template <class SourceAt>
+void Surface::drawOverTile(const xplEdges& part, int column, int row, std::uint64_t content,
+                           SourceAt sourceAt) {
+  const xplEdges tile = m_changes->edgesOf(column, row);
+  const bool isWhole = part.left <= tile.left && part.top <= tile.top && part.right >= tile.right &&
+                       part.bottom >= tile.bottom;
+  if (isWhole && m_changes->isCoveredBy(column, row, content)) {
     return;
   }
-  std::array<std::uint32_t, TileChanges::tileWidth> piece;
-  piece.fill(word);
-  while (left < right) {
-    const int count = std::min(right - left, TileChanges::tileWidth - left % TileChanges::tileWidth);
-    copyToRow(y, left, piece.data(), count);
-    left += count;
+  const int left = std::max(part.left, tile.left);
+  const int right = std::min(part.right, tile.right);
+  const auto bytes = static_cast<std::size_t>(right - left) * sizeof(std::uint32_t);
+  bool hasChanged = false;
+  for (int y = std::max(part.top, tile.top); y < std::min(part.bottom, tile.bottom); ++y) {
+    std::uint32_t* const to = this->row(y) + left;
+    const std::uint32_t* const from = sourceAt(left, y);
+    if (std::memcmp(to, from, bytes) != 0) {
+      std::memcpy(to, from, bytes);
+      hasChanged = true;
+    }
+  }
+  m_changes->drawnOver(column, row, isWhole ? content : 0, hasChanged);
+}
+
+template <class SourceAt>
+void Surface::drawOver(const xplEdges& part, std::uint64_t content, SourceAt sourceAt) {
+  if (part.left >= part.right || part.top >= part.bottom) {
+    return;
+  }
+  for (int row = part.top / TileChanges::tileHeight; row <= (part.bottom - 1) / TileChanges::tileHeight;
+       ++row) {
+    for (int column = part.left / TileChanges::tileWidth; column <= (part.right - 1) / TileChanges::tileWidth;
+         ++column) {
+      drawOverTile(part, column, row, content, sourceAt);
+    }
   }
 }
 
 void Surface::fillRect(const xplEdges& edges, xplColor color) {
   const xplEdges part = clipped(edges);
   const std::uint32_t word = wordOfColor(color);
-  for (int y = part.top; y < part.bottom; ++y) {
-    fillRow(y, part.left, part.right, word);
+  if (m_changes == nullptr) {
+    for (int y = part.top; y < part.bottom; ++y) {
+      fillRow(y, part.left, part.right, word);
+    }
+    return;
   }
+  std::array<std::uint32_t, TileChanges::tileWidth> piece;
+  piece.fill(word);
+  drawOver(part, contentOfFill(word), [&piece](int, int) { return piece.data(); });
 }
 
 void Surface::blit(int x, int y, const Surface& source, int sourceX, int sourceY, int width, int height,
@@ -74,15 +135,21 @@ void Surface::blit(int x, int y, const Surface& source, int sourceX, int sourceY
   const Wide top = std::max({Wide{sourceY}, Wide{0}, -shiftY});
   const Wide right = std::min({Wide{sourceX} + width, Wide{source.m_width}, m_width - shiftX});
   const Wide bottom = std::min({Wide{sourceY} + height, Wide{source.m_height}, m_height - shiftY});
-  if (right <= left) {
+  if (right <= left || bottom <= top) {
+    return;
+  }
+  if (!transparentColor && m_changes != nullptr) {
+    const xplEdges part = {static_cast<int>(left + shiftX), static_cast<int>(top + shiftY),
+                           static_cast<int>(right + shiftX), static_cast<int>(bottom + shiftY)};
+    drawOver(part, contentOfBlit(source.m_version, shiftX, shiftY),
+             [&](int toX, int toY) { return source.row(static_cast<int>(toY - shiftY)) + (toX - shiftX); });
     return;
   }
   for (Wide sourceRow = top; sourceRow < bottom; ++sourceRow) {
     const std::uint32_t* from = source.row(static_cast<int>(sourceRow)) + left;
     std::uint32_t* to = row(static_cast<int>(sourceRow + shiftY)) + (left + shiftX);
     if (!transparentColor) {
-      copyToRow(static_cast<int>(sourceRow + shiftY), static_cast<int>(left + shiftX), from,
-                static_cast<int>(right - left));
+      std::copy_n(from, right - left, to);
       continue;
     }
     touched(static_cast<int>(sourceRow + shiftY), static_cast<int>(left + shiftX),
@@ -91,25 +158,6 @@ void Surface::blit(int x, int y, const Surface& source, int sourceX, int sourceY
     for (Wide column = 0; column < right - left; ++column) {
       to[column] = from[column] == transparent ? to[column] : from[column];
     }
-  }
-}
-
-// Most of what is drawn is there already from the frame before: to look is cheaper than to write, and leaves
-// unmarked what stays the same.
-void Surface::copyToRow(int y, int left, const std::uint32_t* from, int count) {
-  std::uint32_t* const to = row(y) + left;
-  if (m_changes == nullptr) {
-    std::copy_n(from, count, to);
-    return;
-  }
-  for (int done = 0; done < count;) {
-    const int piece = std::min(count - done, TileChanges::tileWidth - (left + done) % TileChanges::tileWidth);
-    const std::size_t bytes = static_cast<std::size_t>(piece) * sizeof(std::uint32_t);
-    if (std::memcmp(to + done, from + done, bytes) != 0) {
-      std::memcpy(to + done, from + done, bytes);
-      m_changes->mark(y, left + done, left + done + piece);
-    }
-    done += piece;
   }
 }
 

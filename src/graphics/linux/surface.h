@@ -51,7 +51,10 @@ class Surface {
 
   // For this folder only: the pixels, row by row, stride() words to a row. Who writes to them says where:
   // touched().
-  std::uint32_t* pixels() { return m_memory->pixels(); }
+  std::uint32_t* pixels() {
+    m_version = nextVersion();
+    return m_memory->pixels();
+  }
   const std::uint32_t* pixels() const { return std::as_const(*m_memory).pixels(); }
   // [left, right) of a row, which must lie on the surface, may have changed.
   void touched(int y, int left, int right) {
@@ -60,15 +63,25 @@ class Surface {
     }
   }
   std::size_t stride() const { return m_memory->stride(); }
-  PixelMemory& memory() { return *m_memory; }
+  PixelMemory& memory() {
+    m_version = nextVersion();
+    return *m_memory;
+  }
 
  private:
+  // A number that no content of any surface has had before.
+  static std::uint64_t nextVersion();
+  // Draws opaque pixels over a part, which must lie on the surface. sourceAt(x, y) points to the pixels of a
+  // row from that place on; content is a number that stands for what is drawn, never 0.
+  template <class SourceAt>
+  void drawOver(const xplEdges& part, std::uint64_t content, SourceAt sourceAt);
+  template <class SourceAt>
+  void drawOverTile(const xplEdges& part, int column, int row, std::uint64_t content, SourceAt sourceAt);
+
   // The part of [left, right) x [top, bottom) that lies on the surface; empty parts have right <= left.
   xplEdges clipped(const xplEdges& edges) const;
   std::uint32_t* row(int y) { return pixels() + static_cast<std::size_t>(y) * stride(); }
   const std::uint32_t* row(int y) const { return pixels() + static_cast<std::size_t>(y) * stride(); }
-  // Copies `count` pixels to [left, left + count) of a row, which must lie on the surface.
-  void copyToRow(int y, int left, const std::uint32_t* from, int count);
   // Fills [left, right) of a row, clipped.
   void fillRow(int y, int left, int right, std::uint32_t word);
 
@@ -76,4 +89,5 @@ class Surface {
   std::unique_ptr<TileChanges> m_changes;  // null unless changes are tracked
   int m_width;
   int m_height;
+  std::uint64_t m_version = nextVersion();  // of the content: anew with every access that may write
 };

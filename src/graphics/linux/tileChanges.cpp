@@ -38,10 +38,20 @@ TileChanges::TileChanges(int width, int height)
       m_columns(tilesIn(width, tileWidth)),
       m_rows(tilesIn(height, tileHeight)),
       m_isMarked(m_columns * m_rows, 1),
+      m_cover(m_columns * m_rows, 0),
       m_shown(m_columns * m_rows, 0) {}
+
+void TileChanges::drawnOver(int column, int row, std::uint64_t cover, bool hasChanged) {
+  const std::size_t tile = tileAt(column, row);
+  m_cover[tile] = cover;
+  if (hasChanged) {
+    m_isMarked[tile] = 1;
+  }
+}
 
 void TileChanges::markAll() {
   std::fill(m_isMarked.begin(), m_isMarked.end(), std::uint8_t{1});
+  std::fill(m_cover.begin(), m_cover.end(), std::uint64_t{0});
 }
 
 void TileChanges::forgetShown() {
@@ -49,9 +59,9 @@ void TileChanges::forgetShown() {
   std::fill(m_shown.begin(), m_shown.end(), std::uint64_t{0});
 }
 
-xplEdges TileChanges::edgesOf(std::size_t column, std::size_t row) const {
-  const int left = static_cast<int>(column) * tileWidth;
-  const int top = static_cast<int>(row) * tileHeight;
+xplEdges TileChanges::edgesOf(int column, int row) const {
+  const int left = column * tileWidth;
+  const int top = row * tileHeight;
   return {left, top, std::min(left + tileWidth, m_width), std::min(top + tileHeight, m_height)};
 }
 
@@ -63,7 +73,7 @@ const std::vector<xplEdges>& TileChanges::takeChanged(const PixelMemory& memory)
       const std::size_t tile = row * m_columns + column;
       const bool wasMarked = m_isMarked[tile] != 0;
       m_isMarked[tile] = 0;
-      const xplEdges edges = edgesOf(column, row);
+      const xplEdges edges = edgesOf(static_cast<int>(column), static_cast<int>(row));
       const std::uint64_t hash = wasMarked ? hashOfPart(memory, edges) : m_shown[tile];
       const bool isChanged = hash != m_shown[tile];
       m_shown[tile] = hash;

@@ -22,12 +22,23 @@ class TileChanges {
   // Pixels of a row may have changed; the range must lie in the picture.
   void mark(int y, int left, int right) {
     if (left < right) {
-      std::uint8_t* tiles = m_isMarked.data() + static_cast<std::size_t>(y / tileHeight) * m_columns;
+      const std::size_t row = static_cast<std::size_t>(y / tileHeight) * m_columns;
       for (int column = left / tileWidth; column <= (right - 1) / tileWidth; ++column) {
-        tiles[column] = 1;
+        m_isMarked[row + static_cast<std::size_t>(column)] = 1;
+        m_cover[row + static_cast<std::size_t>(column)] = 0;
       }
     }
   }
+  // A tile that was last drawn over as a whole remembers by what, so that the same needs no drawing again.
+  // `cover` stands for the drawn content and is never 0; the tile is named by its column and row.
+  bool isCoveredBy(int column, int row, std::uint64_t cover) const {
+    return m_cover[tileAt(column, row)] == cover;
+  }
+  // The tile was drawn over: as a whole by this content, or partly (0). hasChanged: its pixels are not what
+  // they were.
+  void drawnOver(int column, int row, std::uint64_t cover, bool hasChanged);
+  // The tile's part of the picture.
+  xplEdges edgesOf(int column, int row) const;
   void markAll();
   // What was shown is lost: everything counts as changed, whatever it holds.
   void forgetShown();
@@ -37,13 +48,16 @@ class TileChanges {
   const std::vector<xplEdges>& takeChanged(const PixelMemory& memory);
 
  private:
-  xplEdges edgesOf(std::size_t column, std::size_t row) const;
+  std::size_t tileAt(int column, int row) const {
+    return static_cast<std::size_t>(row) * m_columns + static_cast<std::size_t>(column);
+  }
 
   int m_width;
   int m_height;
   std::size_t m_columns;
   std::size_t m_rows;
   std::vector<std::uint8_t> m_isMarked;
+  std::vector<std::uint64_t> m_cover;  // what each tile was last drawn over by; 0 where that is not known
   std::vector<std::uint64_t> m_shown;  // the hash of each tile; 0 where nothing was shown
   std::vector<xplEdges> m_changed;
 };
