@@ -4,17 +4,15 @@
 #include "sprites/wholePixel.h"
 #include "support/log.h"
 
-void cSkyBackground::draw() {
+bool cSkyBackground::prepare() {
   if (renderWindow() == nullptr) {
-    return;
+    return false;
   }
   if (m_needsInit) {
     m_needsInit = false;
     resizeToWindow();
   }
-  if (disabledCount() < 1) {
-    drawPrepared();
-  }
+  return true;
 }
 
 void cSkyBackground::calcSize() {
@@ -30,22 +28,24 @@ void cSkyBackground::resizeToWindow() {
   y = 0.0F;
 }
 
-void cSkyBackground_SolidColor::drawPrepared() {
-  renderWindow()->fillRect(xplRect<int>(0, 0, wholePixel(windowWidth), wholePixel(windowHeight)), m_color);
+void cSkyBackground_SolidColor::draw() {
+  if (prepare()) {
+    // Not fillWindow: it fills the place that the window has on the screen, not the window from its own
+    // corner.
+    renderWindow()->fillRect(xplRect<int>(0, 0, wholePixel(windowWidth), wholePixel(windowHeight)), m_color);
+  }
 }
 
-void cSkyBackground_Image::resizeToWindow() {
-  const logTimeCountrer block(m_blockName);
+bool cSkyBackground_Image::loadPicture() {
   cSkyBackground::resizeToWindow();
   m_picture.setRenderWindow(renderWindow());
   if (!m_picture.image()->initWithResource(m_resourceId)) {
-    return;
+    return false;
   }
-  m_picture.calcSize();
   m_picture.x = 0.0F;
   m_picture.y = 0.0F;
-  pictureLoaded();
   calcSize();
+  return true;
 }
 
 void cSkyBackground_Image::calcSize() {
@@ -55,21 +55,30 @@ void cSkyBackground_Image::calcSize() {
   setSizeIsValid(true);
 }
 
-void cSkyBackground_ImageStretched::pictureLoaded() {
-  if (picture().width > 0.0F && picture().height > 0.0F) {
+void cSkyBackground_ImageStretched::resizeToWindow() {
+  const logTimeCountrer block("cSkyBackground_ImageStretched.initialize()");
+  if (loadPicture() && width > 0.0F && height > 0.0F) {
     picture().resizeImage(wholePixel(windowWidth), wholePixel(windowHeight));
+    calcSize();
     logInfo().addf("skyBackground resizedTo: %i x %i", wholePixel(picture().width),
                    wholePixel(picture().height));
   }
 }
 
-void cSkyBackground_ImageStretched::drawPrepared() {
-  picture().draw();
+void cSkyBackground_ImageStretched::draw() {
+  if (prepare() && disabledCount() < 1) {
+    picture().draw();
+  }
 }
 
-void cSkyBackground_ImageTiled::drawPrepared() {
+void cSkyBackground_ImageTiled::resizeToWindow() {
+  const logTimeCountrer block("cSkyBackground_ImageTiled.initialize()");
+  loadPicture();
+}
+
+void cSkyBackground_ImageTiled::draw() {
   // Without a picture there is no step to go on by.
-  if (windowWidth <= 0.0F || width <= 0.0F || height <= 0.0F) {
+  if (!prepare() || disabledCount() > 0 || windowWidth <= 0.0F || width <= 0.0F || height <= 0.0F) {
     return;
   }
   for (float tileX = 0.0F; tileX < windowWidth; tileX += width) {

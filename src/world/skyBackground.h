@@ -3,22 +3,21 @@
 
 #include "sprites/spriteImage.h"
 
-// A background prepares itself on its first draw.
+// A background prepares itself on its first draw. Without a window it draws nothing.
 class cSkyBackground : public TorvSprite {
  public:
   cSkyBackground() : TorvSprite("cSkyBackground") {}
 
-  void draw() override;
   void calcSize() override;
-  // Takes over the window's size (pixels) and the place (0, 0).
+  // Takes over the window's size (pixels) and the place (0, 0). Called with a window only.
   virtual void resizeToWindow();
   virtual ~cSkyBackground() = default;
 
  protected:
-  // Draws what has been prepared.
-  virtual void drawPrepared() = 0;
-  float windowWidth = 0.0F;
-  float windowHeight = 0.0F;
+  // Prepares on the first call with a window; false without a window.
+  bool prepare();
+  float windowWidth = 0.0F;   // pixels; 0 until prepared
+  float windowHeight = 0.0F;  // pixels; 0 until prepared
 
  private:
   bool m_needsInit = true;
@@ -29,14 +28,15 @@ class cSkyBackground_SolidColor : public cSkyBackground {
  public:
   explicit cSkyBackground_SolidColor(xplColor color) : m_color(color) {}
 
- protected:
-  void drawPrepared() override;
+  // Deliberate: neither visibility count is asked here, unlike in the kinds with a picture. The director
+  // leaves a background out that is disabled; one that is asked directly still fills the window.
+  void draw() override;
 
  private:
   xplColor m_color;
 };
 
-// A picture of the program's own: its bitmap resource and the name of its file.
+// A picture of the program's own: its bitmap resource and the name of its file (a literal).
 struct sPictureResource {
   int id;
   const char* filename;
@@ -44,44 +44,41 @@ struct sPictureResource {
 
 class cSkyBackground_Image : public cSkyBackground {
  public:
-  // blockName: what the preparation is called in the log; a literal.
-  cSkyBackground_Image(sPictureResource resource, const char* blockName)
-      : m_picture(resource.filename), m_resourceId(resource.id), m_blockName(blockName) {}
-
-  // A picture that cannot be loaded leaves the background undrawn; the image has logged why.
-  void resizeToWindow() override;
+  // The picture's size.
   void calcSize() override;
 
  protected:
-  // Called once the picture is there.
-  virtual void pictureLoaded() {}
+  explicit cSkyBackground_Image(sPictureResource resource)
+      : m_picture(resource.filename), m_resourceId(resource.id) {}
+
+  // Takes over the window's size and loads the picture. False where it cannot be loaded: the image has logged
+  // why, and nothing will be drawn.
+  bool loadPicture();
   TorvSpriteImage_ownedImg& picture() { return m_picture; }
 
  private:
   TorvSpriteImage_ownedImg m_picture;
   int m_resourceId;
-  const char* m_blockName;
 };
 
 // The picture stretched to the window, once.
 class cSkyBackground_ImageStretched : public cSkyBackground_Image {
  public:
-  cSkyBackground_ImageStretched()
-      : cSkyBackground_Image({123, "background-blue-gradient.bmp"},
-                             "cSkyBackground_ImageStretched.initialize()") {}
+  static constexpr sPictureResource gradient{123, "background-blue-gradient.bmp"};
 
- protected:
-  void drawPrepared() override;
-  void pictureLoaded() override;
+  explicit cSkyBackground_ImageStretched(sPictureResource resource = gradient)
+      : cSkyBackground_Image(resource) {}
+  void draw() override;
+  void resizeToWindow() override;
 };
 
-// The picture repeated from the top left.
+// The picture repeated from the top left; the window clips the last column and row.
 class cSkyBackground_ImageTiled : public cSkyBackground_Image {
  public:
-  cSkyBackground_ImageTiled()
-      : cSkyBackground_Image({124, "background-starry-tiled.bmp"}, "cSkyBackground_ImageTiled.initialize()") {
-  }
+  static constexpr sPictureResource starryTile{124, "background-starry-tiled.bmp"};
 
- protected:
-  void drawPrepared() override;
+  explicit cSkyBackground_ImageTiled(sPictureResource resource = starryTile)
+      : cSkyBackground_Image(resource) {}
+  void draw() override;
+  void resizeToWindow() override;
 };

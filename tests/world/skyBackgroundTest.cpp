@@ -1,47 +1,7 @@
 // What each background covers the window with.
-#include "graphics/image.h"
-#include "harness/privateFolders.h"
-#include "support/settings.h"
-#include "windowharness/testWindow.h"
-#include "world/skyBackground.h"
-#include "world/skyBackgroundFactory.h"
+#include "skyFixture.h"
 
 namespace {
-
-class SkyBackgrounds : public PrivateFolders {
- protected:
-  // A background for the setting's value, drawn once on a window of this size.
-  void drawBackground(int value, int width, int height) {
-    xplUserSettings().set("background", value);
-    native = std::make_unique<TestWindow>(width, height, 30, 20);
-    window = std::make_unique<xplWindow>(native->handle());
-    background = cSkyBackgroundFactory::create();
-    background->setRenderWindow(window.get());
-    background->draw();
-  }
-  void expectAll(xplColor color) {
-    for (int y = 0; y < window->getHeight(); ++y) {
-      for (int x = 0; x < window->getWidth(); ++x) {
-        ASSERT_EQ(color.value(), window->getPixel(x, y).value()) << x << ", " << y;
-      }
-    }
-  }
-  void expectTiles() {
-    xplImage tile;
-    ASSERT_TRUE(tile.initWithResource(124));
-    for (int y = 0; y < window->getHeight(); y += 7) {
-      for (int x = 0; x < window->getWidth(); x += 3) {
-        ASSERT_EQ(tile.getPixel(x % tile.getWidth(), y % tile.getHeight()).value(),
-                  window->getPixel(x, y).value())
-            << x << ", " << y;
-      }
-    }
-  }
-
-  std::unique_ptr<TestWindow> native;
-  std::unique_ptr<xplWindow> window;
-  std::unique_ptr<cSkyBackground> background;
-};
 
 TEST_F(SkyBackgrounds, Value0IsNearlyBlackBlueUpToTheLastPixel) {
   drawBackground(0, 60, 40);
@@ -59,7 +19,7 @@ TEST_F(SkyBackgrounds, Value2StretchesTheGradientOnce) {
   ASSERT_TRUE(gradient.initWithResource(123));
   gradient.resizeTo(300, 200);
   for (int y = 0; y < 200; ++y) {
-    for (int x = 0; x < 300; x += 5) {
+    for (int x = 0; x < 300; ++x) {
       ASSERT_EQ(gradient.getPixel(x, y).value(), window->getPixel(x, y).value()) << x << ", " << y;
     }
   }
@@ -70,59 +30,52 @@ TEST_F(SkyBackgrounds, Value2StretchesTheGradientOnce) {
 
 TEST_F(SkyBackgrounds, Value3RepeatsTheTileUpToTheClippedEdges) {
   drawBackground(3, 1400, 1100);
-  expectTiles();
+  expectTiles(7, 11);
 }
 
 TEST_F(SkyBackgrounds, AnyOtherValueGivesTheTile) {
   for (const int value : {7, -1}) {
     drawBackground(value, 100, 50);
-    expectTiles();
+    expectTiles(1, 1);
   }
 }
 
 TEST_F(SkyBackgrounds, AWindowSmallerThanTheTileShowsItsCorner) {
   drawBackground(3, 5, 3);
-  expectTiles();
+  expectTiles(1, 1);
 }
 
-TEST_F(SkyBackgrounds, PrepareInATimedBlockOnTheFirstDraw) {
-  drawBackground(3, 50, 50);
-  background->draw();
-  EXPECT_EQ(1, countEntries("Entering: cSkyBackground_ImageTiled.initialize()"));
-  EXPECT_EQ(1, countEntries("Exiting: cSkyBackground_ImageTiled.initialize(). Duration:0.000 sec"));
-  EXPECT_EQ(1, countEntries("Entering: cSkyBackgroundFactory.create()"));
-  EXPECT_EQ(1, countEntries("Exiting: cSkyBackgroundFactory.create(). Duration:0.000 sec"));
-}
-
-TEST_F(SkyBackgrounds, ThatAreDisabledStayUndrawn) {
-  drawBackground(2, 20, 20);
-  window->fillRect(xplRect<int>(0, 0, 20, 20), {1, 2, 3});
-  background->disable();
-  background->draw();
-  expectAll({1, 2, 3});
-}
-
-class MissingPicture : public cSkyBackground_Image {
+// A tile of 300 x 70 pixels.
+class SmallTiles : public cSkyBackground_ImageTiled {
  public:
-  MissingPicture() : cSkyBackground_Image({9999, "missing.bmp"}, "MissingPicture.initialize()") {}
-  int loaded = 0;
-
- protected:
-  void pictureLoaded() override { ++loaded; }
-  void drawPrepared() override { picture().draw(); }
+  void resizeToWindow() override {
+    cSkyBackground_ImageTiled::resizeToWindow();
+    picture().resizeImage(300, 70);
+    calcSize();
+  }
+  xplImage& tile() { return *picture().image(); }
 };
 
-TEST_F(SkyBackgrounds, APictureThatCannotBeLoadedLeavesTheWindowAlone) {
-  native = std::make_unique<TestWindow>(20, 20);
-  window = std::make_unique<xplWindow>(native->handle());
-  window->fillRect(xplRect<int>(0, 0, 20, 20), {1, 2, 3});
-  MissingPicture missing;
-  missing.setRenderWindow(window.get());
-  missing.draw();
-  missing.draw();
-  expectAll({1, 2, 3});
-  EXPECT_EQ(0, missing.loaded);
-  EXPECT_NE(std::string::npos, logText().find("#4653b: image.initWithResource_impl failed:9999"));
+TEST_F(SkyBackgrounds, AThousandPixelsTakeFourColumnsOf300) {
+  makeWindow(1000, 100);
+  SmallTiles tiles;
+  tiles.setRenderWindow(window.get());
+  tiles.draw();
+  for (int y = 0; y < 100; ++y) {
+    for (int x = 0; x < 1000; ++x) {
+      ASSERT_EQ(tiles.tile().getPixel(x % 300, y % 70).value(), window->getPixel(x, y).value())
+          << x << ", " << y;
+    }
+  }
+}
+
+TEST_F(SkyBackgrounds, WithoutAUsableSettingAreTheDefaultOne) {
+  xplUserSettings().set("background", "blue");
+  makeWindow(40, 30);
+  background = cSkyBackgroundFactory::create();
+  background->setRenderWindow(window.get());
+  background->draw();
+  expectTiles(1, 1);
 }
 
 TEST_F(SkyBackgrounds, SizesAreTheWindowsOrThePictures) {
