@@ -7,10 +7,12 @@
 // Shared by any number of particles, which only borrow it.
 class TorvMoveRestriction {
  public:
-  virtual ~TorvMoveRestriction() = default;
   // False without a rectangle, true otherwise, also where nothing had to change. A null particle is a mistake
   // of the caller: it is reported and false is returned.
   virtual bool apply(TorvParticle* particle) = 0;
+
+ protected:
+  ~TorvMoveRestriction() = default;  // never deleted through this class
 };
 
 // Comparisons truncate the particle's edges towards zero, so that -0.5 counts as 0.
@@ -19,9 +21,9 @@ class TorvMoveRestriction_InsideRect : public TorvMoveRestriction {
   TorvMoveRestriction_InsideRect() = default;
   // Borrows the rectangle (pixels), which must outlive the restriction; null for none.
   explicit TorvMoveRestriction_InsideRect(const xplRect<int>* rectangle) : m_rectangle(rectangle) {}
-  void setRectangle(const xplRect<int>* rectangle) { m_rectangle = rectangle; }
 
  protected:
+  ~TorvMoveRestriction_InsideRect() = default;
   // False where there is nothing to apply to; reports a null particle.
   bool canApply(const TorvParticle* particle) const;
   const xplRect<int>& rectangle() const { return *m_rectangle; }

@@ -8,8 +8,7 @@
 // Borrows its sprites, which must outlive the last call.
 class TorvSpriteDirector {
  public:
-  virtual ~TorvSpriteDirector() = default;
-  // Updates every sprite, in list order; seconds.
+  // Updates every sprite, in list order, also those that are not shown; seconds.
   virtual void updateAll(float elapsedSec);
   // Draws every sprite that is shown, in list order: later ones lie over earlier ones.
   virtual void drawAll();
