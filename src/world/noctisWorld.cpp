@@ -20,6 +20,13 @@ constexpr float starSpeed = 0.2F;  // pixels per second, the largest in each dir
 constexpr float bottomLineSpeed = -54.0F;  // pixels per second: it scrolls to the left
 constexpr int bottomLineSmallestText = 8;  // points
 
+// Deliberate: an eightieth of the window's height in pixels is taken as a size in points, so that the text
+// comes out a third higher than an eightieth on most screens. How long the line takes to scroll through, and
+// so when the next message may come, depends on it; do not convert it.
+int bottomLineTextHeight(int windowHeight) {
+  return std::max(windowHeight / 80, bottomLineSmallestText);
+}
+
 }  // namespace
 
 TnoctisWorld::TnoctisWorld(xplWindow* window, std::int32_t monitorId,
@@ -90,7 +97,7 @@ void TnoctisWorld::initializeStars() {
   const TorvPoint bottomRight{static_cast<float>(m_windowRect.getRight()),
                               static_cast<float>(m_windowRect.getBottom())};
   for (auto& star : m_stars) {
-    star->calcSize();
+    star->calcSize();  // so that it lies wholly inside, and wraps only when it is wholly outside
     star->setRandomPosition(topLeft, bottomRight);
     star->speedX = xplRandom::between(-starSpeed, starSpeed);
     star->speedY = xplRandom::between(-starSpeed, starSpeed);
@@ -104,7 +111,7 @@ void TnoctisWorld::initializeBottomLine() {
   m_bottomLine.speedY = 0.0F;
   logInfo().addf("bottomLine default height:%i", m_bottomLine.style.fontSize);
   m_bottomLine.style.useWindowFontSize = false;
-  m_bottomLine.style.fontSize = std::max(m_windowRect.height / 80, bottomLineSmallestText);
+  m_bottomLine.style.fontSize = bottomLineTextHeight(m_windowRect.height);
   m_spriteDirector.addSprite(m_bottomLine);
   m_bottomLine.x = static_cast<float>(m_windowRect.getRight() + 1);
   m_bottomLine.y =

@@ -9,6 +9,11 @@
 
 namespace {
 
+// Deliberate: these two entries end with a line break of their own, so that an empty line follows each in the
+// log. Readers of logs find the palette's life by it; the other entries have none.
+constexpr const char* paletteBegins = "First cStarSpriteWithPixels create. Will create cStarPalette\n";
+constexpr const char* paletteEnds = "Last cStarSpriteWithPixels destroy. Destroyed cStarPalette\n";
+
 int livingStars = 0;
 std::unique_ptr<TstarImageBinder> palette;
 
@@ -37,7 +42,7 @@ cStarSpriteWithPixels::cStarSpriteWithPixels(float averageTwinkleDuration, const
     : cTwinkleStarSprite(averageTwinkleDuration, name, brightness, amplitude, averageRestDuration),
       xplInstanceCounterPattern(livingStars) {
   if (livingStars == 1) {
-    logInfo().add("First cStarSpriteWithPixels create. Will create cStarPalette\n");
+    logInfo().add(paletteBegins);
     palette = std::make_unique<TstarImageBinder>(starPixels);
     logInfo().add("TstarImageBinder created");
   }
@@ -46,7 +51,7 @@ cStarSpriteWithPixels::cStarSpriteWithPixels(float averageTwinkleDuration, const
 cStarSpriteWithPixels::~cStarSpriteWithPixels() {
   if (livingStars == 1) {
     palette.reset();
-    logInfo().add("Last cStarSpriteWithPixels destroy. Destroyed cStarPalette\n");
+    logInfo().add(paletteEnds);
   }
 }
 

@@ -13,6 +13,8 @@ class cStarSpriteWithPixels : public cTwinkleStarSprite, public xplInstanceCount
                         float averageRestDuration);
   virtual ~cStarSpriteWithPixels();
 
+  // Deliberate: no visibility count is asked here, for the director has left out what is not shown. Thousands
+  // of stars are drawn in every frame, and a kind that vanishes decides so itself.
   void draw() override;
   void calcSize() override;
   // The pixels of a star of this brightness: its lower right quadrant.
