@@ -1,13 +1,13 @@
-// How sprites are shown, sized, placed and drawn.
+// How sprites are shown, placed, and directed together.
+#include <limits>
+#include <string>
 #include <vector>
 
-#include "harness/privateFolders.h"
+#include "spriteFixture.h"
 #include "sprites/sprite.h"
 #include "sprites/spriteDirector.h"
-#include "sprites/spriteImage.h"
-#include "sprites/spriteText.h"
+#include "sprites/wholePixel.h"
 #include "support/random.h"
-#include "windowharness/testWindow.h"
 
 namespace {
 
@@ -25,24 +25,9 @@ class RecordingSprite : public TorvSprite {
   std::vector<std::string>& m_events;
 };
 
-class Sprites : public PrivateFolders {
+class Sprites : public SpriteCanvas {
  protected:
   std::vector<std::string> events;
-  TestWindow native{200, 100};
-  xplWindow window{native.handle()};
-
-  void clear() { window.fillRect(xplRect<int>(0, 0, 200, 100), {0, 0, 0}); }
-  // The leftmost column in which anything is drawn; -1 for none.
-  int firstDrawnColumn() {
-    for (int x = 0; x < 200; ++x) {
-      for (int y = 0; y < 100; ++y) {
-        if (!(window.getPixel(x, y) == xplColor(0, 0, 0))) {
-          return x;
-        }
-      }
-    }
-    return -1;
-  }
 };
 
 TEST_F(Sprites, DirectorUpdatesAndDrawsInListOrder) {
@@ -134,116 +119,51 @@ TEST_F(Sprites, InAnAreaThatIsTooSmallStandLeftOfAndAboveIt) {
   }
 }
 
-TEST_F(Sprites, TheSameTextAgainKeepsTheSizeValid) {
-  TorvSpriteText text("t");
-  text.setRenderWindow(&window);
-  text.setText("stars");
-  text.calcSize();
-  EXPECT_TRUE(text.sizeIsValid());
-  EXPECT_GT(text.width, 10.0F);
-  EXPECT_GT(text.height, 5.0F);
-  text.setText("stars");
-  EXPECT_TRUE(text.sizeIsValid());
-  text.setText("Stars");
-  EXPECT_FALSE(text.sizeIsValid());
+TEST_F(Sprites, BeginShownUnsizedAndWithoutAWindow) {
+  RecordingSprite sprite("a", events);
+  EXPECT_TRUE(sprite.isShown());
+  EXPECT_EQ(0, sprite.disabledCount());
+  EXPECT_EQ(0, sprite.hiddenCount());
+  EXPECT_FALSE(sprite.sizeIsValid());
+  EXPECT_EQ(nullptr, sprite.renderWindow());
 }
 
-TEST_F(Sprites, TextWithoutAWindowHasNoSizeAndIsReportedWhenDrawn) {
-  TorvSpriteText text("label");
-  text.setText("stars");
-  text.width = 5.0F;
-  text.calcSize();
-  EXPECT_FLOAT_EQ(0.0F, text.width);
-  EXPECT_FALSE(text.sizeIsValid());
-  text.draw();
-  EXPECT_EQ(1, countEntries("#4573: label.draw() with nil m_renderWindowPtr"));
+TEST_F(Sprites, DisabledTwiceAreShownAfterTheSecondEnable) {
+  RecordingSprite sprite("a", events);
+  sprite.disable();
+  sprite.disable();
+  sprite.enable();
+  EXPECT_FALSE(sprite.isShown());
+  sprite.enable();
+  EXPECT_TRUE(sprite.isShown());
+  EXPECT_EQ(std::string::npos, logText().find("#8662b"));
 }
 
-TEST_F(Sprites, TextMeasuresInItsOwnFontSizeAndLeavesTheWindowsAlone) {
-  TorvSpriteText text("t");
-  text.setRenderWindow(&window);
-  text.setText("stars");
-  text.calcSize();
-  const float inWindowSize = text.height;
-  text.style.useWindowFontSize = false;
-  text.style.fontSize = 36;
-  text.calcSize();
-  EXPECT_GT(text.height, 2.0F * inWindowSize);
-  EXPECT_EQ(12, window.fontSize.current());
+TEST_F(Sprites, DirectorUpdatesByMoving) {
+  RecordingSprite sprite("a", events);
+  sprite.speedX = 50.0F;
+  TorvSpriteDirector director;
+  director.addSprite(sprite);
+  director.updateAll(0.5F);
+  EXPECT_FLOAT_EQ(25.0F, sprite.x);
 }
 
-TEST_F(Sprites, CentredTextIsDrawnHalfItsWidthFurtherRight) {
-  TorvSpriteText text("t");
-  text.setRenderWindow(&window);
-  text.setText("|");
-  text.style.useWindowTextColor = false;
-  text.style.textColor = xplColor(255, 255, 255);
-  text.width = 101.0F;
-  text.x = 20.0F;
-  clear();
-  text.draw();
-  const int left = firstDrawnColumn();
-  clear();
-  // Centred on x + 50, so the narrow text itself starts a little left of there.
-  text.style.alignDefault = false;
-  text.style.alignment = xplTextAttributes::alignmentCentered;
-  text.draw();
-  int width = 0;
-  window.getTextSize("|", &width, nullptr);
-  EXPECT_EQ(left + 50 - width / 2, firstDrawnColumn());
+TEST_F(Sprites, DirectorDrawsWhatWasEnabledTooOften) {
+  RecordingSprite sprite("a", events);
+  sprite.enable();
+  TorvSpriteDirector director;
+  director.addSprite(sprite);
+  director.drawAll();
+  EXPECT_EQ((std::vector<std::string>{"draw a"}), events);
 }
 
-TEST_F(Sprites, HiddenTextDrawsNothingEvenWhenAskedDirectly) {
-  TorvSpriteText text("t");
-  text.setRenderWindow(&window);
-  text.setText("stars");
-  clear();
-  text.hide();
-  text.draw();
-  EXPECT_EQ(-1, firstDrawnColumn());
-  text.unhide();
-  text.draw();
-  EXPECT_NE(-1, firstDrawnColumn());
-}
-
-TEST_F(Sprites, KeptAHiddenPictureStillDrawsItselfWhenAskedDirectly) {
-  TorvSpriteImage_ownedImg picture("p");
-  picture.setRenderWindow(&window);
-  picture.image()->initWithSizeAndColor(4, 3, {9, 8, 7});
-  picture.calcSize();
-  EXPECT_FLOAT_EQ(4.0F, picture.width);
-  EXPECT_FLOAT_EQ(3.0F, picture.height);
-  clear();
-  picture.x = 30.9F;
-  picture.hide();
-  picture.draw();
-  EXPECT_EQ(30, firstDrawnColumn());
-  clear();
-  picture.disable();
-  picture.draw();
-  EXPECT_EQ(-1, firstDrawnColumn());
-}
-
-TEST_F(Sprites, APictureWithoutAnImageNeitherDrawsNorSizes) {
-  TorvSpriteImage_linkedImg picture("p");
-  picture.setRenderWindow(&window);
-  picture.width = 12.0F;
-  clear();
-  picture.calcSize();
-  picture.resizeImage(3, 3);
-  picture.draw();
-  EXPECT_FLOAT_EQ(12.0F, picture.width);
-  EXPECT_FALSE(picture.sizeIsValid());
-  EXPECT_EQ(-1, firstDrawnColumn());
-}
-
-TEST_F(Sprites, ResizingAPictureTakesItsNewSizeAtOnce) {
-  TorvSpriteImage_ownedImg picture("p");
-  picture.image()->initWithSizeAndColor(4, 3, {9, 8, 7});
-  picture.resizeImage(10, 20);
-  EXPECT_FLOAT_EQ(10.0F, picture.width);
-  EXPECT_FLOAT_EQ(20.0F, picture.height);
-  EXPECT_TRUE(picture.sizeIsValid());
+TEST_F(Sprites, WholePixelsTruncateTowardsZeroAndSaturate) {
+  EXPECT_EQ(0, wholePixel(-0.5));
+  EXPECT_EQ(-1, wholePixel(-1.999));
+  EXPECT_EQ(1, wholePixel(1.999));
+  EXPECT_EQ(std::numeric_limits<int>::max(), wholePixel(1e30));
+  EXPECT_EQ(std::numeric_limits<int>::min(), wholePixel(-1e30));
+  EXPECT_EQ(0, wholePixel(std::numeric_limits<double>::quiet_NaN()));
 }
 
 }  // namespace
