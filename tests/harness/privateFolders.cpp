@@ -6,6 +6,7 @@
 #include <fstream>
 #include <iterator>
 #include <sstream>
+#include <system_error>
 
 #include "support/fileSystem.h"
 #include "support/random.h"
@@ -17,8 +18,13 @@ namespace {
 std::string makeFolder() {
   for (unsigned number = 1;; ++number) {
     const auto path = std::filesystem::temp_directory_path() / ("lunaria-test-" + std::to_string(number));
-    if (std::filesystem::create_directory(path)) {
+    // Another program may remove a folder of this name while it is looked at; then it counts as taken.
+    std::error_code error;
+    if (std::filesystem::create_directory(path, error)) {
       return path.string();
+    }
+    if (error && error != std::errc::file_exists) {
+      throw std::filesystem::filesystem_error("no folder for a test", path, error);
     }
   }
 }
