@@ -1,6 +1,8 @@
 // A rectangle by its top-left corner and size; right and bottom are exclusive edges.
 #pragma once
 
+#include "graphics/wrapping.h"
+
 // What the edges of a rectangle of T are computed in: float edges are widened, as callers compare them in
 // double.
 template <class T>
@@ -20,10 +22,10 @@ class xplRect {
   xplRect() = default;
   xplRect(T aTop, T aLeft, T aWidth, T aHeight) : top(aTop), left(aLeft), width(aWidth), height(aHeight) {}
 
-  virtual typename xplEdgeOf<T>::type getBottom() const { return top + height; }
-  virtual typename xplEdgeOf<T>::type getRight() const { return left + width; }
-  virtual void setBottom(T bottom) { height = bottom - top; }  // top stays
-  virtual void setRight(T right) { width = right - left; }     // left stays
+  virtual typename xplEdgeOf<T>::type getBottom() const { return wrappingSum(top, height); }
+  virtual typename xplEdgeOf<T>::type getRight() const { return wrappingSum(left, width); }
+  virtual void setBottom(T bottom) { height = wrappingDifference(bottom, top); }  // top stays
+  virtual void setRight(T right) { width = wrappingDifference(right, left); }     // left stays
 
   T top{};
   T left{};

@@ -1,8 +1,11 @@
 // The window's operations that are derived from others on every platform.
 #include "graphics/windowBase.h"
 
+#include "graphics/wrapping.h"
+
 void xplWindowBase::fillCircle(int x, int y, int radius, xplColor color) {
-  fillEllipse(x - radius, y - radius, x + radius, y + radius, color);
+  fillEllipse(wrappingDifference(x, radius), wrappingDifference(y, radius), wrappingSum(x, radius),
+              wrappingSum(y, radius), color);
 }
 
 int xplWindowBase::getBottom() {
