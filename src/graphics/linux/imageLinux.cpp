@@ -94,6 +94,7 @@ void xplImageLinux::drawOnWindow(xplWindow& window, int x, int y) {
   if (m_bitmap) {
     xplDrawingToolsLinux(window.currentTarget())
         .drawImage(x, y, m_target, getWidth(), getHeight(), m_transparentColor);
+    window.drawn();
   }
 }
 

@@ -30,12 +30,13 @@ class xplWindowLinux : public xplWindowBase {
   void setUseBackBuffer(bool use) override;
 
   // Where drawing goes now; null without a native window. Waits until the display has read the last frame.
+  // Whoever draws there calls drawn() afterwards.
   Surface* const& currentTarget();
+  // Shows what was drawn straight to the window.
+  void drawn() override;
 
  protected:
   xplDrawingToolsLinux& tools();
-  // Shows what was drawn straight to the window.
-  void drawn() override;
 
  private:
   void waitUntilShown();
@@ -43,10 +44,9 @@ class xplWindowLinux : public xplWindowBase {
   void show(Surface& surface);
 
   xplWindowHandle m_handle;
-  xplEdges m_windowRect;                  // screen coordinates, read once
-  std::unique_ptr<Surface> m_backBuffer;  // null without a native window
-  std::unique_ptr<Surface>
-      m_directSurface;  // what drawing straight to the window goes through; made on first use
+  xplEdges m_windowRect;                     // screen coordinates, read once
+  std::unique_ptr<Surface> m_backBuffer;     // null without a native window
+  std::unique_ptr<Surface> m_directSurface;  // null unless drawing goes straight to the window
   Surface* m_target = nullptr;
   bool m_isBeingShown = false;  // the display may still read what was presented last
   xplDrawingToolsLinux m_tools;
