@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 #include <cstring>
+#include <limits>
 #include <utility>
 
 #include "graphics/linux/heapPixelMemory.h"
@@ -24,6 +25,22 @@ std::uint64_t contentOfFill(std::uint32_t word) {
 std::uint64_t contentOfBlit(std::uint64_t sourceVersion, std::int64_t shiftX, std::int64_t shiftY) {
   const std::uint64_t hash = mixed(mixed(2, sourceVersion), static_cast<std::uint64_t>(shiftX));
   return (mixed(hash, static_cast<std::uint64_t>(shiftY)) & ~std::uint64_t{1}) | (std::uint64_t{1} << 63);
+}
+
+struct Range {
+  int first = 0;
+  int end = 0;  // exclusive
+};
+
+// Deliberate: edges in the wrong order do not make an empty range, they make one that runs backwards: from
+// the first edge, inclusive, down to the second, exclusive. The platform fills so. Do not sort the edges
+// either; that gives other pixels.
+Range filledRange(int edge, int oppositeEdge) {
+  if (oppositeEdge >= edge) {
+    return {edge, oppositeEdge};
+  }
+  // Behind the last number there is nothing.
+  return edge == std::numeric_limits<int>::max() ? Range{} : Range{oppositeEdge + 1, edge + 1};
 }
 
 }  // namespace
@@ -51,17 +68,15 @@ void Surface::trackChanges() {
   m_changes = std::make_unique<TileChanges>(m_width, m_height);
 }
 
-xplEdges Surface::clipped(const xplEdges& edges) const {
-  return {std::max(edges.left, 0), std::max(edges.top, 0), std::min(edges.right, m_width),
-          std::min(edges.bottom, m_height)};
-}
-
-void Surface::fillRow(int y, int left, int right, std::uint32_t word) {
-  left = std::max(left, 0);
-  right = std::min(right, m_width);
-  if (y < 0 || y >= m_height || left >= right) {
+void Surface::fillRow(std::int64_t wideY, std::int64_t wideLeft, std::int64_t wideRight, std::uint32_t word) {
+  wideLeft = std::max(wideLeft, std::int64_t{0});
+  wideRight = std::min(wideRight, std::int64_t{m_width});
+  if (wideY < 0 || wideY >= m_height || wideLeft >= wideRight) {
     return;
   }
+  const int y = static_cast<int>(wideY);
+  const int left = static_cast<int>(wideLeft);
+  const int right = static_cast<int>(wideRight);
   std::fill(row(y) + left, row(y) + right, word);
   touched(y, left, right);
 }
@@ -112,7 +127,10 @@ void Surface::drawOver(const xplEdges& part, std::uint64_t content, SourceAt sou
 }
 
 void Surface::fillRect(const xplEdges& edges, xplColor color) {
-  const xplEdges part = clipped(edges);
+  const Range columns = filledRange(edges.left, edges.right);
+  const Range rows = filledRange(edges.top, edges.bottom);
+  const xplEdges part = {std::max(columns.first, 0), std::max(rows.first, 0), std::min(columns.end, m_width),
+                         std::min(rows.end, m_height)};
   const std::uint32_t word = wordOfColor(color);
   if (m_changes == nullptr) {
     for (int y = part.top; y < part.bottom; ++y) {

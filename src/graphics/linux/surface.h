@@ -12,6 +12,7 @@
 #include "graphics/linux/edges.h"
 #include "graphics/linux/pixelMemory.h"
 #include "graphics/linux/tileChanges.h"
+#include "graphics/linux/wideGeometry.h"
 
 // Only this folder may see the memory behind a surface: what is drawn is going to be recorded, so everything
 // else draws through the operations. Every operation clips to the surface, and gives the pixels that GDI
@@ -29,11 +30,14 @@ class Surface {
 
   xplColor getPixel(int x, int y) const;  // white outside
   void setPixel(int x, int y, xplColor color);
+  // Where the right edge lies left of the left one, the pixels from the right edge, exclusive, to the left
+  // one, inclusive, are filled; likewise from top to bottom.
   void fillRect(const xplEdges& edges, xplColor color);
   // The ellipse inside the edges, filled with the colour, with the one-pixel black outline of GDI's default
   // pen.
   void fillEllipse(const xplEdges& edges, xplColor color);
-  // The last pixel is not drawn. A width below 1 counts as 1.
+  // Of a line one pixel wide the last pixel is not drawn; a wider pen is round and stands on both ends. A
+  // width of 0 counts as 1, a negative one as its amount.
   void drawLine(int x1, int y1, int x2, int y2, int penWidth, xplColor color);
   // Copies the source's pixels from (sourceX, sourceY) on, except those of exactly the transparent colour.
   void blit(int x, int y, const Surface& source, int sourceX, int sourceY, int width, int height,
@@ -78,12 +82,16 @@ class Surface {
   template <class SourceAt>
   void drawOverTile(const xplEdges& part, int column, int row, std::uint64_t content, SourceAt sourceAt);
 
-  // The part of [left, right) x [top, bottom) that lies on the surface; empty parts have right <= left.
-  xplEdges clipped(const xplEdges& edges) const;
   std::uint32_t* row(int y) { return pixels() + static_cast<std::size_t>(y) * stride(); }
   const std::uint32_t* row(int y) const { return pixels() + static_cast<std::size_t>(y) * stride(); }
   // Fills [left, right) of a row, clipped.
-  void fillRow(int y, int left, int right, std::uint32_t word);
+  void fillRow(std::int64_t y, std::int64_t left, std::int64_t right, std::uint32_t word);
+  // The ellipse inside the box with an outline in the pen's colour.
+  void drawEllipse(const WideEdges& box, std::uint32_t pen, std::uint32_t brush);
+  void drawThinLine(const WidePoint& from, const WidePoint& to, xplColor color);
+  // penWidth: at least 2.
+  void drawWideLine(const WidePoint& from, const WidePoint& to, std::int64_t penWidth, std::uint32_t word);
+  void fillQuadrilateral(const WideCorners& corners, std::uint32_t word);
 
   std::unique_ptr<PixelMemory> m_memory;
   std::unique_ptr<TileChanges> m_changes;  // null unless changes are tracked
