@@ -140,10 +140,9 @@ void Surface::drawEllipse(const WideEdges& box, std::uint32_t pen, std::uint32_t
     const Wide lower = outline.lower();
     const Wide upper = outline.upper();
     Wide inner = outer;
-    do {
+    for (outline.advance(); !outline.done() && outline.lower() == lower; outline.advance()) {
       inner = outline.left();
-      outline.advance();
-    } while (!outline.done() && outline.lower() == lower);
+    }
     drawRow(lower, outer, inner);
     drawRow(upper, outer, inner);
   }
