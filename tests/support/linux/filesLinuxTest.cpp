@@ -15,8 +15,8 @@ namespace {
 
 class FilesLinux : public PrivateFolders {
  protected:
-  void SetUp() override { ASSERT_TRUE(xplFileSystemMini::createFolder(root() + "/work")); }
-  std::string path(const std::string& name) const { return root() + "/work/" + name; }
+  void SetUp() override { ASSERT_TRUE(xplFileSystemMini::createFolder(root() + "/files")); }
+  std::string path(const std::string& name) const { return root() + "/files/" + name; }
   bool replace(const std::string& name, const std::string& content) {
     message.clear();
     return xplFileSystemMini::replaceFile(path(name), content, message);
