@@ -22,6 +22,8 @@ bool StopSignals::arrived() {
   signalfd_siginfo information{};
   while (m_descriptor.isOpen() && ::read(m_descriptor.get(), &information, sizeof information) > 0) {
     m_arrived = true;
+    m_number = static_cast<int>(information.ssi_signo);
+    m_sender = static_cast<int>(information.ssi_pid);
   }
   return m_arrived;
 }

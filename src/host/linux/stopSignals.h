@@ -14,8 +14,13 @@ class StopSignals {
   int descriptor() const { return m_descriptor.get(); }
   // True from the first of these signals on.
   bool arrived();
+  // The signal that arrived last and the process that sent it; 0 before, and where it came from the system.
+  int number() const { return m_number; }
+  int sender() const { return m_sender; }
 
  private:
   FileDescriptor m_descriptor;
   bool m_arrived = false;
+  int m_number = 0;
+  int m_sender = 0;
 };

@@ -72,6 +72,7 @@ void X11Link::collect() {
                         " went away: start the saver again when it is back");
   } else if (m_signals.arrived() && !m_isStopping) {
     m_isStopping = true;
+    logInfo().addf("Ended by signal %i of process %i", m_signals.number(), m_signals.sender());
     m_pump.post(WM_CLOSE);
   }
 }

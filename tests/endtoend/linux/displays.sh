@@ -86,3 +86,16 @@ far_corner_is_drawn() { [ "$(import -window root -crop 2000x1000+13360+3320 +rep
 check "down to its far corner" until_true 20 far_corner_is_drawn
 end_saver
 same "and ends in order" 0 "$code"
+
+start_display 1920x1080x24
+xsetroot -solid red
+xrandr --fb 1024x600 >/dev/null 2>&1
+start_and_see root
+check "a screen that was made smaller is taken as it is" logged "TopLeft:0,0 screen width:1024, height:600"
+xrandr --fb 1920x1080 >/dev/null 2>&1
+new_part_is_black() {
+  [ "$(import -window root -crop 800x1000+1050+10 +repage -format '%[fx:maxima]' info:)" = 0 ]
+}
+check "what a growing screen adds is covered with black" until_true 5 new_part_is_black
+check "and the run goes on" frames_advance root
+end_saver

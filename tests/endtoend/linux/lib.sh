@@ -1,6 +1,6 @@
 # What the end-to-end scripts share. Source it; LUNARIA_BIN names the folder of the programs.
 set -u
-bin=${LUNARIA_BIN:?LUNARIA_BIN must name the folder of the programs}
+bin=$(cd "${LUNARIA_BIN:?LUNARIA_BIN must name the folder of the programs}" && pwd)
 lunaria=$bin/lunaria
 helper=${LUNARIA_HELPER:-$bin/../tests/endtoend/linux/x11_helper}
 [ -x "$lunaria" ] || { echo "no program $lunaria: build the target lunaria" >&2; exit 1; }
@@ -14,6 +14,8 @@ saver=
 unset XSCREENSAVER_WINDOW LUNARIA_NO_SHM XDG_RUNTIME_DIR XDG_CONFIG_HOME XDG_DATA_HOME XDG_CACHE_HOME
 export HOME=$work/home TMPDIR=$work/tmp SDL_AUDIODRIVER=dummy
 mkdir -m 700 "$HOME" "$TMPDIR"
+# Without any folder to be had the log goes to the current one.
+cd "$work" || exit 1
 log=$TMPDIR/Lunaria.xplLog.txt
 
 finish() {
@@ -82,7 +84,12 @@ gone_or_zombie() { [ "$(sed 's/.*) //; s/ .*//' "/proc/$1/stat" 2>/dev/null || e
 # end_saver [SIGNAL]: sends it, sets code and milliseconds until the program had gone.
 end_saver() {
   local start; start=$(date +%s%N)
-  kill -"${1:-TERM}" "$saver"
+  if ! kill -"${1:-TERM}" "$saver" 2>/dev/null; then
+    wait "$saver"
+    not_ok "the saver runs until it is told to end" "it ended before, with exit code $?"
+    tail -12 "$log"
+    start=0
+  fi
   wait "$saver"; code=$?
   milliseconds=$((($(date +%s%N) - start) / 1000000))
   saver=

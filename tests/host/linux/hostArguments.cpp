@@ -1,4 +1,6 @@
 // Gives the application object the arguments that the program's entry would give it.
+#include <memory>
+
 #include <gtest/gtest.h>
 
 #include "support/linux/applicationLinux.h"
@@ -10,6 +12,7 @@ class HostArguments : public testing::Environment {
   void SetUp() override { xplAppLinux::setArguments({"test_host", "/s"}); }
 };
 
-[[maybe_unused]] const auto* const environment = testing::AddGlobalTestEnvironment(new HostArguments);
+[[maybe_unused]] const auto* const environment =
+    testing::AddGlobalTestEnvironment(std::make_unique<HostArguments>().release());
 
 }  // namespace
