@@ -15,9 +15,11 @@
 #include "graphics/windows/windowWin.h"
 using xplWindowPlatform = xplWindowWin;
 using xplImagePlatform = xplImageWin;
+using xplDrawingToolsPlatform = xplDrawingToolsWinDC;
 #else
 #include "graphics/linux/imageLinux.h"
 #include "graphics/linux/windowLinux.h"
 using xplWindowPlatform = xplWindowLinux;
 using xplImagePlatform = xplImageLinux;
+using xplDrawingToolsPlatform = xplDrawingToolsLinux;
 #endif

@@ -88,6 +88,8 @@ TEST_F(ImageOnWindowTest, DrawingGoesToTheWindowItselfWithoutTheBackBuffer) {
   image.initWithSizeAndColor(2, 2, red);
   m_window.setUseBackBuffer(false);
   image.drawOnWindow(m_window, 0, 0);
+  EXPECT_EQ(red, m_native.shownPixel(1, 1)) << "seen at once";
+  EXPECT_EQ(xplColor(0, 0, 0), m_native.shownPixel(2, 1));
   m_window.setUseBackBuffer(true);
   EXPECT_EQ(shown().find('r'), std::string::npos);
 }
