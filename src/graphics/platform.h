@@ -6,7 +6,8 @@
 // - a window class derived from xplWindowBase that fills every slot but those of xplWindow; it is made from a
 // native
 //   handle (xplWindowHandle), owns the back buffer, and gives its present target with currentTarget();
-// - an image class derived from xplImageBase that fills every slot but those of xplImage.
+// - an image class derived from xplImageBase that fills every slot but those of xplImage, and that measures
+// texts for its own target (getTextSize).
 // Pixels are what counts: fills, ellipses, lines, blits and the scaler give the same ones on every platform.
 #pragma once
 

@@ -34,6 +34,7 @@ class TorvSprite : public TorvParticle {
   void unhide() { --m_hiddenCount; }
   int disabledCount() const { return m_disabledCount; }
   int hiddenCount() const { return m_hiddenCount; }
+  bool isEnabled() const { return m_disabledCount < 1; }
   bool isShown() const { return m_disabledCount < 1 && m_hiddenCount < 1; }
 
   const char* name() const { return m_name; }

@@ -1,6 +1,7 @@
 // Makes the sky and everything in it, moves it and draws it.
 #include "world/noctisWorld.h"
 
+#include "support/assertion.h"
 #include "support/log.h"
 #include "support/random.h"
 
@@ -12,6 +13,15 @@ constexpr float starAmplitude = 0.6F;
 constexpr float starDimmest = 0.05F;
 constexpr float starBrightest = 0.4F;
 
+constexpr float msgStarPulseDuration = 2.5F;  // seconds
+constexpr float msgStarRestDuration = 30.0F;  // seconds
+constexpr float msgStarAmplitude = 0.5F;
+constexpr float msgStarDimmest = 0.3F;
+constexpr float msgStarBrightest = 0.5F;
+
+constexpr float messageDuration = 30.0F;  // seconds from one message's start until the next may come
+constexpr int randomChoiceOdds = 20;      // one message in so many is chosen at random
+
 }  // namespace
 
 TnoctisWorld::TnoctisWorld(xplWindow* window, std::int32_t monitorId,
@@ -21,6 +31,7 @@ TnoctisWorld::TnoctisWorld(xplWindow* window, std::int32_t monitorId,
       m_monitorList(&monitorList),
       m_containerFolder(containerFolder) {
   createStars();
+  createMsgStars();
   if (m_window != nullptr) {
     takeOverWindow();
   }
@@ -32,6 +43,10 @@ TnoctisWorld::~TnoctisWorld() {
     star.reset();
   }
   logInfo().add("Deleted stars[]");
+  for (auto& star : m_msgStars) {
+    star.reset();
+  }
+  logInfo().add("Deleted msgStars[]");
   m_skyBackground = nullptr;
   m_backgrounds.clear();
   logInfo().add("Deleted m_backgroundPtr[]");
@@ -42,6 +57,15 @@ void TnoctisWorld::createStars() {
     const float brightness = xplRandom::between(starDimmest, starBrightest);
     star = std::make_unique<cStarSpriteWithPixels>(starPulseDuration, "normal star", brightness,
                                                    starAmplitude, starRestDuration);
+  }
+}
+
+void TnoctisWorld::createMsgStars() {
+  const logTimeCountrer block("creating thousands of message stars");
+  for (auto& star : m_msgStars) {
+    const float brightness = xplRandom::between(msgStarDimmest, msgStarBrightest);
+    star =
+        std::make_unique<cMsgStar>(msgStarPulseDuration, brightness, msgStarAmplitude, msgStarRestDuration);
   }
 }
 
@@ -62,6 +86,52 @@ void TnoctisWorld::takeOverWindow() {
 
 void TnoctisWorld::update(float elapsedSec) {
   m_spriteDirector.updateAll(elapsedSec);
+  if (isNextMessageDue()) {
+    applyNextMessage();
+  }
+  m_msgStarDirector.advance(elapsedSec);
+  if (const auto* transition = m_msgStarDirector.transition();
+      transition != nullptr && transition->isRunning()) {
+    parkBottomLine();
+  }
+}
+
+// A transition whose clock still stands at exactly 0 lets the next message through at once.
+bool TnoctisWorld::isNextMessageDue() const {
+  const auto* transition = m_msgStarDirector.transition();
+  const bool starsAreFree =
+      transition == nullptr || transition->elapsed() > messageDuration || transition->elapsed() == 0.0F;
+  const bool lineIsThrough =
+      !m_bottomLine.isEnabled() || m_bottomLine.getRight() < static_cast<float>(m_windowRect.left);
+  return m_msgStarDirector.hasMessages() && starsAreFree && lineIsThrough;
+}
+
+void TnoctisWorld::applyNextMessage() {
+  logInfo().add("msgStarDirector.applyNextMessage()");
+  if (!m_msgStarDirector.hasMessages()) {
+    return;
+  }
+  const int lot = xplRandom::next();
+  if (lot % randomChoiceOdds == 0) {
+    m_msgStarDirector.chooseRandomMessage();
+  }
+  const sMessage* message = m_msgStarDirector.getMsg();
+  xplAssert(message, "#8662: msgStarDirector.getMsg() returned NULL", "noctisWorld");
+  if (message == nullptr) {
+    return;
+  }
+  m_msgStarDirector.project(message->message, m_windowRect);
+  m_msgStarDirector.startTransition(m_windowRect, m_msgStars);
+  m_bottomLine.setText(message->bottomLine);
+  m_bottomLine.calcSize();
+  parkBottomLine();
+  if (!m_bottomLine.isEnabled()) {
+    m_bottomLine.enable();
+  }
+}
+
+void TnoctisWorld::parkBottomLine() {
+  m_bottomLine.x = static_cast<float>(m_windowRect.getRight() + 1);
 }
 
 void TnoctisWorld::draw() {

@@ -12,6 +12,7 @@
 #include "sprites/moveRestriction.h"
 #include "sprites/spriteDirector.h"
 #include "sprites/spriteText.h"
+#include "world/msgStarDirector.h"
 #include "world/skyBackground.h"
 #include "world/starWithPixels.h"
 
@@ -19,6 +20,7 @@ class TnoctisWorld {
  public:
   static constexpr std::int32_t previewMonitorId = -1;
   static constexpr std::size_t starCount = 200;
+  static constexpr std::size_t msgStarCount = 1500;
 
   // Borrows the window (null for none) and the monitor list (screen coordinates, the main monitor first);
   // both must outlive the world. monitorId: 0 for the normal run, -1 for the preview. containerFolder: the
@@ -36,6 +38,9 @@ class TnoctisWorld {
   void update(float elapsedSec);
   // Draws everything that is shown on the window's current target, back to front.
   void draw();
+  // Lets the stars spell the next message, and its bottom line scroll once they have arrived. Nothing without
+  // messages.
+  void applyNextMessage();
 
   // 0 in the normal run, -1 in the preview.
   std::int32_t monitorId() const { return m_monitorId; }
@@ -44,13 +49,19 @@ class TnoctisWorld {
   const xplRect<int>& mainMonitorRect() const { return m_mainMonitorRect; }
   const TorvSpriteText& bottomLine() const { return m_bottomLine; }
   const cStarSpriteWithPixels& star(std::size_t index) const { return *m_stars[index]; }
+  const cMsgStar& msgStar(std::size_t index) const { return *m_msgStars[index]; }
+  const cMsgStarDirector& msgStarDirector() const { return m_msgStarDirector; }
 
  private:
   void createStars();
+  void createMsgStars();
   void takeOverWindow();
   void initializeBackground();
   void initializeStars();
+  void initializeMsgStars();
   void initializeBottomLine();
+  bool isNextMessageDue() const;
+  void parkBottomLine();
 
   std::int32_t m_monitorId;
   xplRect<int> m_windowRect;       // in the window's own coordinates
@@ -61,8 +72,10 @@ class TnoctisWorld {
   TorvSpriteDirector m_spriteDirector;
   TorvSpriteText m_bottomLine{"bottomLine"};
   std::array<std::unique_ptr<cStarSpriteWithPixels>, starCount> m_stars;
+  std::array<std::unique_ptr<cMsgStar>, msgStarCount> m_msgStars;
   xplColor m_backgroundColor{0, 0, 0};
   std::vector<std::unique_ptr<cSkyBackground>> m_backgrounds;
+  cMsgStarDirector m_msgStarDirector;
   xplWindow* m_window;
   const std::vector<xplRect<int>>* m_monitorList;
   cSkyBackground* m_skyBackground = nullptr;  // one of m_backgrounds

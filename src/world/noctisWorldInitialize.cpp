@@ -27,6 +27,7 @@ void TnoctisWorld::initializeWorld() {
   const logFunctionLife block("initializeWorld()");
   guarded("initializeBackground() exception", [this] { initializeBackground(); });
   initializeStars();
+  initializeMsgStars();
   guarded("initializeBottomLine() exception", [this] { initializeBottomLine(); });
   m_spriteDirector.setRenderWindowAll(m_window);
 }
@@ -54,6 +55,13 @@ void TnoctisWorld::initializeStars() {
   }
 }
 
+void TnoctisWorld::initializeMsgStars() {
+  for (auto& star : m_msgStars) {
+    m_spriteDirector.addSprite(*star);
+  }
+  m_msgStarDirector.prepare();
+}
+
 void TnoctisWorld::initializeBottomLine() {
   m_bottomLine.speedX = bottomLineSpeed;
   m_bottomLine.speedY = 0.0F;
@@ -61,7 +69,7 @@ void TnoctisWorld::initializeBottomLine() {
   m_bottomLine.style.useWindowFontSize = false;
   m_bottomLine.style.fontSize = bottomLineTextHeight(m_windowRect.height);
   m_spriteDirector.addSprite(m_bottomLine);
-  m_bottomLine.x = static_cast<float>(m_windowRect.getRight() + 1);
+  parkBottomLine();
   m_bottomLine.y =
       std::min(0.95F * static_cast<float>(m_windowRect.height), static_cast<float>(m_windowRect.height - 22));
   m_bottomLine.disable();

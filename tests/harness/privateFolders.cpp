@@ -90,6 +90,14 @@ std::vector<std::string> PrivateFolders::logEntries() const {
   return texts;
 }
 
+int PrivateFolders::countEntriesWith(const std::string& part) const {
+  int count = 0;
+  for (const std::string& entry : logEntries()) {
+    count += entry.find(part) != std::string::npos ? 1 : 0;
+  }
+  return count;
+}
+
 int PrivateFolders::countEntries(const std::string& text, const std::string& level) const {
   int count = 0;
   for (const auto& entry : entriesOf(logText())) {

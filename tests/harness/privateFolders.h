@@ -27,6 +27,9 @@ class PrivateFolders : public testing::Test {
   // given.
   int countEntries(const std::string& text, const std::string& level = "") const;
 
+  // How many entries hold this text anywhere.
+  int countEntriesWith(const std::string& part) const;
+
   // 2016-05-21 21:15:00 UTC.
   xplManualClock clock{{1463865300, 0}};
 

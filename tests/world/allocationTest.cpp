@@ -32,6 +32,7 @@ namespace {
 TEST_F(World, TakesNoMemoryForAFrame) {
   for (const int background : {0, 2, 3}) {
     xplUserSettings().set("background", background);
+    leaveOnlyStars();
     const auto world = makeWorld(160, 120);
     world->initializeWorld();
     world->update(0.04F);

@@ -109,12 +109,15 @@ TEST_F(World, KeepsItsMonitorAndACopyOfItsFolder) {
 }
 
 TEST_F(World, WithoutMessagesKeepsTheBottomLineDisabled) {
+  leaveOnlyStars();
   const auto world = makeWorld(64, 48);
   world->initializeWorld();
   for (int i = 0; i < 1000; ++i) {
     world->update(0.04F);
   }
   EXPECT_EQ(1, world->bottomLine().disabledCount());
+  EXPECT_EQ(nullptr, world->msgStarDirector().transition());
+  EXPECT_FALSE(world->msgStar(0).isVisible);
 }
 
 TEST_F(World, InALowWindowGivesTheBottomLineTheSmallestText) {
@@ -131,6 +134,7 @@ TEST_F(World, KeepsTheBottomLine22PixelsAboveTheEdgeOfALowWindow) {
 
 TEST_F(World, LogsItsBuildingAndItsEndInThisOrder) {
   xplUserSettings().set("background", 2);
+  leaveOnlyStars();
   makeWorld(64, 48).reset();
   const std::size_t before = logEntries().size();
   {
@@ -146,6 +150,8 @@ TEST_F(World, LogsItsBuildingAndItsEndInThisOrder) {
       "First cStarSpriteWithPixels create. Will create cStarPalette\n",
       "cImageBinder initializing 100 images",
       "TstarImageBinder created",
+      "Entering: creating thousands of message stars",
+      "Exiting: creating thousands of message stars. Duration:0.000 sec",
       "m_windowRect.left=0, top=0, w=64 h=48",
       "m_mainMonitorRect.left=20, top=10, w=320 h=240",
       "Entering: initializeWorld()",
@@ -158,8 +164,9 @@ TEST_F(World, LogsItsBuildingAndItsEndInThisOrder) {
       "skyBackground resizedTo: 64 x 48",
       "Exiting: cSkyBackground_ImageStretched.initialize(). Duration:0.000 sec",
       "Entering: TnoctisWorld.destructor()",
-      "Last cStarSpriteWithPixels destroy. Destroyed cStarPalette\n",
       "Deleted stars[]",
+      "Last cStarSpriteWithPixels destroy. Destroyed cStarPalette\n",
+      "Deleted msgStars[]",
       "Deleted m_backgroundPtr[]",
       "Exiting: TnoctisWorld.destructor()",
   };

@@ -22,6 +22,12 @@ class World : public PrivateFolders {
     return std::make_unique<TnoctisWorld>(window.get(), monitorId, monitors, "folder");
   }
 
+  // Only stars and the background; for worlds that are made from now on.
+  static void leaveOnlyStars() {
+    xplUserSettings().set("msg_defaultMessagesAdded", true);
+    xplUserSettings().set("showMoon", false);
+  }
+
   std::vector<xplRect<int>> monitors = {xplRect<int>(10, 20, 320, 240), xplRect<int>(0, 340, 100, 100)};
   std::unique_ptr<TestWindow> native;
   std::unique_ptr<xplWindow> window;

@@ -90,6 +90,11 @@ void xplImageLinux::drawText(int x, int y, const std::string& text, const xplTex
   m_tools.drawText(x, y, text, info);
 }
 
+void xplImageLinux::getTextSize(const std::string& text, const xplTextDrawingInfo& info, int* width,
+                                int* height) {
+  m_tools.getTextSize(text, info, width, height);
+}
+
 void xplImageLinux::drawOnWindow(xplWindow& window, int x, int y) {
   if (m_bitmap) {
     xplDrawingToolsLinux(window.currentTarget())

@@ -19,6 +19,8 @@ class xplImageLinux : public xplImageBase {
   int getWidth() override;
   int getHeight() override;
   void drawText(int x, int y, const std::string& text, const xplTextDrawingInfo& info) override;
+  // The size in pixels that drawText would take; either out argument may be null.
+  void getTextSize(const std::string& text, const xplTextDrawingInfo& info, int* width, int* height);
   void drawOnWindow(xplWindow& window, int x, int y) override;
   void crop_impl(int x, int y, int width, int height) override;
   void resizeTo_impl(int width, int height) override;

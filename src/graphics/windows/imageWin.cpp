@@ -152,6 +152,11 @@ void xplImageWin::drawText(int x, int y, const std::string& text, const xplTextD
   m_tools.drawText(x, y, text, info);
 }
 
+void xplImageWin::getTextSize(const std::string& text, const xplTextDrawingInfo& info, int* width,
+                              int* height) {
+  m_tools.getTextSize(text, info, width, height);
+}
+
 void xplImageWin::drawOnWindow(xplWindow& window, int x, int y) {
   if (m_GDIHBitmap != nullptr) {
     xplDrawingToolsWinDC(window.currentTarget())

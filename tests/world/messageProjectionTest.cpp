@@ -1,0 +1,199 @@
+// Which points spell a text, and where they stand on the window.
+#include <algorithm>
+#include <chrono>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "graphics/image.h"
+#include "support/assertion.h"
+#include "world/messageProjection.h"
+#include "worldFixture.h"
+
+namespace {
+
+const xplRect<int> fullHd(0, 0, 1920, 1080);
+
+struct Extent {
+  int minX = 1 << 30;
+  int minY = 1 << 30;
+  int maxX = -(1 << 30);
+  int maxY = -(1 << 30);
+  int width() const { return maxX - minX; }
+  int height() const { return maxY - minY; }
+};
+
+class MessageProjection : public PrivateFolders {
+ protected:
+  std::vector<sTargetPoint> project(const std::string& text, const xplRect<int>& screen = fullHd) {
+    std::vector<sTargetPoint> points = {{1, 1}, {2, 2}};
+    projectMessage(text, screen, points);
+    return points;
+  }
+
+  static Extent extentOf(const std::vector<sTargetPoint>& points) {
+    Extent extent;
+    for (const sTargetPoint& point : points) {
+      extent.minX = std::min(extent.minX, point.x);
+      extent.minY = std::min(extent.minY, point.y);
+      extent.maxX = std::max(extent.maxX, point.x);
+      extent.maxY = std::max(extent.maxY, point.y);
+    }
+    return extent;
+  }
+};
+
+TEST_F(MessageProjection, TakesEveryPixelOfTheLettersOnce) {
+  // The same letters, drawn here: as many bright pixels as there are points.
+  xplImage image;
+  image.initWithSizeAndColor(300, 150, {0, 0, 0});
+  xplTextDrawingInfo info;
+  info.color = xplColor(255, 255, 255);
+  info.fontName = "Courier New";
+  info.fontSize = 10;
+  info.nonAntialiased = 1;
+  image.drawText(20, 30, "Moon", info);
+  std::size_t bright = 0;
+  for (int y = 0; y < 150; ++y) {
+    for (int x = 0; x < 300; ++x) {
+      bright += image.getPixel(x, y) == xplColor(255, 255, 255) ? 1U : 0U;
+    }
+  }
+  EXPECT_GT(bright, 40U);
+  EXPECT_EQ(bright, project("Moon").size());
+}
+
+TEST_F(MessageProjection, GoesThroughThePixelsRowByRow) {
+  const auto points = project("Lunaria\r\nscreensaver");
+  EXPECT_TRUE(std::is_sorted(points.begin(), points.end(), [](const auto& a, const auto& b) {
+    return a.y < b.y || (a.y == b.y && a.x < b.x);
+  }));
+}
+
+TEST_F(MessageProjection, SaysWhatItProjectsAndWhereItGoes) {
+  xplRandom::seed(3);
+  project("Hi");
+  EXPECT_EQ(1, countEntries("project(Hi)"));
+  EXPECT_EQ(1, countEntriesWith("will scale x12.0, offsetX="));
+}
+
+TEST_F(MessageProjection, NeverScalesMoreThanTwelveTimes) {
+  const Extent big = extentOf(project("I", xplRect<int>(0, 0, 15360, 4320)));
+  const Extent small = extentOf(project("I", xplRect<int>(0, 0, 1920, 1080)));
+  EXPECT_EQ(big.height(), small.height());
+  EXPECT_EQ(0, small.height() % 12);
+}
+
+TEST_F(MessageProjection, FillsSixTenthsOfTheNarrowerDirection) {
+  const Extent extent = extentOf(project("a message that is wide", xplRect<int>(0, 0, 1000, 1000)));
+  EXPECT_GE(extent.width(), 590);
+  EXPECT_LE(extent.width(), 601);
+}
+
+TEST_F(MessageProjection, ScalesASingleRowByItsWidthAlone) {
+  const Extent row = extentOf(project("____", xplRect<int>(0, 0, 400, 30)));
+  EXPECT_EQ(0, row.height());
+  EXPECT_GE(row.width(), 230);
+  EXPECT_LE(row.width(), 241);
+}
+
+TEST_F(MessageProjection, OfASinglePixelScalesTwelveTimes) {
+  EXPECT_LE(project(".").size(), 6U);
+  EXPECT_EQ(1, countEntriesWith("will scale x12.0"));
+}
+
+TEST_F(MessageProjection, OfNothingGivesNoPoints) {
+  EXPECT_TRUE(project("").empty());
+  EXPECT_TRUE(project("   ").empty());
+  EXPECT_TRUE(project("\r\n\r\n").empty());
+}
+
+TEST_F(MessageProjection, StaysBelowTheTopThirtyPercentAndInsideTheWindow) {
+  xplRandom::seed(8);
+  for (int i = 0; i < 500; ++i) {
+    const Extent extent = extentOf(project("Good night\r\nsleep well"));
+    // A twelfth part is lost where an offset is cut to whole pixels of the text.
+    ASSERT_GE(extent.minY, 324 - 12);
+    ASSERT_LE(extent.maxY, 1026);
+    ASSERT_GE(extent.minX, 96 - 12);
+    ASSERT_LE(extent.maxX, 1824);
+  }
+}
+
+TEST_F(MessageProjection, PutsTheFormationAnywhereInThere) {
+  xplRandom::seed(8);
+  int leftmost = 10000;
+  int rightmost = 0;
+  for (int i = 0; i < 200; ++i) {
+    const Extent extent = extentOf(project("Moon"));
+    leftmost = std::min(leftmost, extent.minX);
+    rightmost = std::max(rightmost, extent.minX);
+  }
+  EXPECT_LT(leftmost, 150);
+  EXPECT_GT(rightmost, 1300);
+}
+
+TEST_F(MessageProjection, DrawsTheColumnBeforeTheRow) {
+  xplRandom::seed(20);
+  const float first = xplRandom::unit();
+  const float second = xplRandom::unit();
+  const std::uint32_t after = xplRandom::state();
+  xplRandom::seed(20);
+  const Extent extent = extentOf(project("Moon"));
+  EXPECT_EQ(after, xplRandom::state());
+  const int expectedX = 96 + static_cast<int>(first * static_cast<float>(1824 - 96 - extent.width()));
+  const int expectedY = 324 + static_cast<int>(second * static_cast<float>(1026 - 324 - extent.height()));
+  EXPECT_NEAR(expectedX, extent.minX, 12);
+  EXPECT_NEAR(expectedY, extent.minY, 12);
+}
+
+TEST_F(MessageProjection, CentresShortLinesUnderLongOnes) {
+  const auto points = project("HHHHHHHHHHH\r\nHHH");
+  const Extent whole = extentOf(points);
+  std::vector<sTargetPoint> below;
+  std::copy_if(points.begin(), points.end(), std::back_inserter(below),
+               [&](const auto& point) { return point.y > whole.minY + whole.height() / 2; });
+  const Extent second = extentOf(below);
+  EXPECT_NEAR(whole.minX + whole.width() / 2, second.minX + second.width() / 2, 10);
+  EXPECT_LT(second.width(), whole.width() / 2);
+}
+
+TEST_F(MessageProjection, CutsWhatIsTooWideAtTheRight) {
+  // The advance of these letters is 8 pixels: 300 pixels hold 37 and a half of them.
+  const std::string text = "H" + std::string(35, ' ') + "HHHH";
+  const std::size_t whole = project("H").size();
+  EXPECT_GE(project(text).size(), 2 * whole);
+  EXPECT_LT(project(text).size(), 3 * whole);
+  EXPECT_EQ(whole, project("H" + std::string(60, ' ') + "H").size());
+}
+
+TEST_F(MessageProjection, OfLongTextsAndControlCharactersEndsAndIsBounded) {
+  EXPECT_LE(project(std::string(4999, 'W')).size(), 45000U);
+  std::string controls;
+  for (char c = 1; c < 32; ++c) {
+    controls += c;
+  }
+  project(controls);
+  project("\xff\xfe\x80 broken");
+  std::string lines;
+  for (int i = 0; i < 2000; ++i) {
+    lines += "x\r\n";
+  }
+  EXPECT_LE(project(lines).size(), 45000U);
+}
+
+TEST_F(MessageProjection, OnWindowsOfAnySizeDoesNotFall) {
+  for (const auto& [width, height] :
+       std::vector<std::pair<int, int>>{{1, 1}, {1, 2000}, {64, 48}, {15360, 4320}, {2000, 1}}) {
+    EXPECT_FALSE(project("Moon", xplRect<int>(0, 0, width, height)).empty()) << width << " x " << height;
+  }
+}
+
+TEST_F(MessageProjection, OnAWindowWithoutAnExtentReportsTheScaleAndKeepsTheOffsets) {
+  const auto points = project("Moon", xplRect<int>(0, 0, 0, 0));
+  ASSERT_FALSE(points.empty());
+  EXPECT_EQ((sTargetPoint{0, 0}), points.front());
+  EXPECT_EQ(xplAssertionsReport ? 1 : 0, countEntriesWith("#2841: xplVector Div by zero., source xplVector"));
+}
+
+}  // namespace
