@@ -1,4 +1,4 @@
-// Smooth random fields.
+// Random fields.
 #include "latticeNoise.h"
 
 namespace {
@@ -37,11 +37,24 @@ double hashUnit(int x, int y, int seed) {
          4294967296.0;
 }
 
+double grain(int x, int y, int periodX, int periodY, int seed) {
+  const auto chance = [&](int dx, int dy) {
+    return hashUnit(wrapped(x + dx, periodX), wrapped(y + dy, periodY), seed);
+  };
+  const double around = chance(-1, 0) + chance(1, 0) + chance(0, -1) + chance(0, 1);
+  return chance(0, 0) - around / 4.0;
+}
+
 double periodicNoise(double x, double y, int periodX, int periodY, int seed) {
   const int cellX = floorOf(x);
   const int cellY = floorOf(y);
+  // Each lattice point tilts the field by a slope of its own and is 0 itself, so the lattice does not show.
   const auto corner = [&](int dx, int dy) {
-    return hashUnit(wrapped(cellX + dx, periodX), wrapped(cellY + dy, periodY), seed);
+    const int latticeX = wrapped(cellX + dx, periodX);
+    const int latticeY = wrapped(cellY + dy, periodY);
+    const double slopeX = hashUnit(latticeX, latticeY, seed) * 2.0 - 1.0;
+    const double slopeY = hashUnit(latticeX, latticeY, seed + 0x5bd1) * 2.0 - 1.0;
+    return slopeX * (x - cellX - dx) + slopeY * (y - cellY - dy);
   };
   const double tx = smooth(x - cellX);
   const double ty = smooth(y - cellY);
