@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <cstdint>
 #include <limits>
-#include <vector>
 
 #include "graphics/linux/glyphPainter.h"
 #include "graphics/linux/utf8.h"
@@ -22,24 +21,22 @@ bool isControl(char32_t character) {
   return character < U' ' || character == 0x7F;
 }
 
-bool endsLine(char32_t character) {
-  return character == U'\n' || character == U'\r';
+bool endsLine(char character) {
+  return character == '\n' || character == '\r';
 }
 
-// The characters of a text up to its first zero byte, by lines. A line feed, a carriage return, or one of
-// each in either order ends a line; no line begins behind the last one's end, so an empty text has no line at
-// all.
-std::vector<std::u32string> linesOf(const std::string& text) {
-  const std::u32string characters = decodeUtf8(text.c_str());
-  std::vector<std::u32string> lines;
-  for (auto start = characters.begin(); start != characters.end();) {
-    const auto end = std::find_if(start, characters.end(), endsLine);
-    lines.emplace_back(start, end);
-    const bool isEndOfPair =
-        end != characters.end() && end + 1 != characters.end() && endsLine(end[1]) && end[1] != end[0];
-    start = end == characters.end() ? end : end + (isEndOfPair ? 2 : 1);
+// Calls visit(line) for each line of a text up to its first zero byte. A line feed, a carriage return, or one
+// of each in either order ends a line; no line begins behind the last one's end, so an empty text has no line
+// at all.
+template <class Visit>
+void forEachLine(const std::string& text, Visit visit) {
+  for (std::string_view rest = text.c_str(); !rest.empty();) {
+    const auto end =
+        static_cast<std::size_t>(std::find_if(rest.begin(), rest.end(), endsLine) - rest.begin());
+    visit(rest.substr(0, end));
+    const bool isEndOfPair = end + 1 < rest.size() && endsLine(rest[end + 1]) && rest[end + 1] != rest[end];
+    rest.remove_prefix(std::min(end + (isEndOfPair ? 2 : 1), rest.size()));
   }
-  return lines;
 }
 
 // Lines are measured by other advances than they are drawn with; only spaced lines are drawn by those too. It
@@ -128,15 +125,15 @@ const Glyph& TextEngine::glyphOf(const Font& font, char32_t character) {
   return glyphOf(font, font.face, 0);
 }
 
-std::int64_t TextEngine::lineWidth(const Font& font, const std::u32string& line) {
+std::int64_t TextEngine::lineWidth(const Font& font, std::string_view line) {
   std::int64_t width = 0;
-  for (const char32_t character : line) {
+  forEachCharacter(line, [&](char32_t character) {
     width += std::int64_t{glyphOf(font, character).measuredAdvance} + font.spacing;
-  }
+  });
   return width;
 }
 
-std::int64_t TextEngine::leftEdge(const Font& font, const std::u32string& line, int x, int alignment) {
+std::int64_t TextEngine::leftEdge(const Font& font, std::string_view line, int x, int alignment) {
   if (alignment == xplTextDrawingInfo::alignRight) {
     return x - lineWidth(font, line);
   }
@@ -147,12 +144,12 @@ std::int64_t TextEngine::leftEdge(const Font& font, const std::u32string& line, 
 }
 
 void TextEngine::drawLine(Surface& surface, std::int64_t pen, std::int64_t baseline, const Font& font,
-                          const std::u32string& line, xplColor color) {
-  for (const char32_t character : line) {
+                          std::string_view line, xplColor color) {
+  forEachCharacter(line, [&](char32_t character) {
     const Glyph& glyph = glyphOf(font, character);
     paintGlyph(surface, pen, baseline, glyph, color);
     pen += stepAfter(glyph, font.spacing);
-  }
+  });
 }
 
 TextSize TextEngine::measure(const std::string& text, const TextStyle& style) {
@@ -162,10 +159,10 @@ TextSize TextEngine::measure(const std::string& text, const TextStyle& style) {
   }
   std::int64_t width = 0;
   std::int64_t height = 0;
-  for (const std::u32string& line : linesOf(text)) {
+  forEachLine(text, [&](std::string_view line) {
     width = std::max(width, lineWidth(font, line));
     height += font.metrics.lineHeight();
-  }
+  });
   return {clampedToInt(width), clampedToInt(height)};
 }
 
@@ -176,8 +173,8 @@ void TextEngine::draw(Surface& surface, int x, int y, const std::string& text, c
     return;
   }
   std::int64_t baseline = std::int64_t{y} + font.metrics.ascent;
-  for (const std::u32string& line : linesOf(text)) {
+  forEachLine(text, [&](std::string_view line) {
     drawLine(surface, leftEdge(font, line, x, alignment), baseline, font, line, color);
     baseline += font.metrics.lineHeight();
-  }
+  });
 }

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <map>
 #include <string>
+#include <string_view>
 #include <utility>
 
 #include "graphics/linux/fontCache.h"
@@ -12,7 +13,8 @@
 #include "graphics/linux/surface.h"
 #include "graphics/linux/textRenderer.h"
 
-// The functions of textRenderer.h share one; a test may make its own. For one thread at a time.
+// The functions of textRenderer.h share one; a test may make its own. For one thread at a time. A text whose
+// glyphs are kept is measured and drawn without taking memory.
 class TextEngine {
  public:
   TextSize measure(const std::string& text, const TextStyle& style);
@@ -41,10 +43,10 @@ class TextEngine {
   bool findMetrics(Font& font);
   const Glyph& glyphOf(const Font& font, char32_t character);
   const Glyph& glyphOf(const Font& font, int face, unsigned glyphIndex);
-  std::int64_t lineWidth(const Font& font, const std::u32string& line);
-  std::int64_t leftEdge(const Font& font, const std::u32string& line, int x, int alignment);
+  std::int64_t lineWidth(const Font& font, std::string_view line);
+  std::int64_t leftEdge(const Font& font, std::string_view line, int x, int alignment);
   void drawLine(Surface& surface, std::int64_t pen, std::int64_t baseline, const Font& font,
-                const std::u32string& line, xplColor color);
+                std::string_view line, xplColor color);
   void reportMissingFont(const std::string& faceName);
 
   FontCache m_fonts;

@@ -1,14 +1,7 @@
 // Implements the UTF-8 decoder.
 #include "graphics/linux/utf8.h"
 
-#include <cstddef>
-
 namespace {
-
-struct Sequence {
-  char32_t character = replacementCharacter;
-  std::size_t length = 1;  // bytes
-};
 
 // How many bytes a sequence that begins with this one has; 0 where none begins with it.
 std::size_t lengthByFirstByte(unsigned char first) {
@@ -29,8 +22,9 @@ bool isCharacter(char32_t value, std::size_t length) {
   return value >= smallest[length] && value <= 0x10FFFF && (value < 0xD800 || value > 0xDFFF);
 }
 
-// text is not empty.
-Sequence decodeFirst(std::string_view text) {
+}  // namespace
+
+Utf8Character firstCharacter(std::string_view text) {
   const auto first = static_cast<unsigned char>(text.front());
   const std::size_t length = lengthByFirstByte(first);
   if (length == 0 || length > text.size()) {
@@ -44,18 +38,5 @@ Sequence decodeFirst(std::string_view text) {
     }
     value = (value << 6U) | (byte & 0x3FU);
   }
-  return isCharacter(value, length) ? Sequence{value, length} : Sequence{};
-}
-
-}  // namespace
-
-std::u32string decodeUtf8(std::string_view text) {
-  std::u32string characters;
-  characters.reserve(text.size());
-  while (!text.empty()) {
-    const Sequence sequence = decodeFirst(text);
-    characters.push_back(sequence.character);
-    text.remove_prefix(sequence.length);
-  }
-  return characters;
+  return isCharacter(value, length) ? Utf8Character{value, length} : Utf8Character{};
 }

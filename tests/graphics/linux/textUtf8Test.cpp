@@ -1,11 +1,18 @@
 // Tests of the UTF-8 decoder.
 #include <string>
+#include <string_view>
 
 #include <gtest/gtest.h>
 
 #include "graphics/linux/utf8.h"
 
 namespace {
+
+std::u32string decodeUtf8(std::string_view text) {
+  std::u32string characters;
+  forEachCharacter(text, [&characters](char32_t character) { characters += character; });
+  return characters;
+}
 
 std::u32string replacements(std::size_t count) {
   return std::u32string(count, replacementCharacter);

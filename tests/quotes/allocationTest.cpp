@@ -1,0 +1,66 @@
+// A frame in which no text changes takes no memory: every allocation of the program is counted.
+#include <atomic>
+#include <cstdlib>
+#include <new>
+
+#include "quotes/quotesSprite.h"
+#include "quotesFixture.h"
+
+namespace {
+
+std::atomic<long> allocations{0};
+
+}  // namespace
+
+void* operator new(std::size_t size) {
+  ++allocations;
+  if (void* memory = std::malloc(size == 0 ? 1 : size)) {
+    return memory;
+  }
+  throw std::bad_alloc();
+}
+
+void operator delete(void* memory) noexcept {
+  std::free(memory);
+}
+
+void operator delete(void* memory, std::size_t) noexcept {
+  std::free(memory);
+}
+
+namespace {
+
+int timesAsked = 0;
+
+const char* giveText(const std::vector<std::int32_t>&) {
+  ++timesAsked;
+  return "The first line of three, a long one|the second|and the third, with \"signs\"";
+}
+
+class QuotesLabelMemory : public QuotesOnAWindow {};
+
+TEST_F(QuotesLabelMemory, IsTakenOnlyWhenAQuoteBegins) {
+  cQuotesSprite label(giveText);
+  label.initialize(&window);
+  label.renderRect = xplRect<float>(10.0F, 20.0F, 620.0F, 440.0F);
+  label.update(6.0F);
+  int quotes = 0;
+  long atQuotes = 0;
+  for (int i = 0; i < 2500; ++i) {
+    const long before = allocations.load();
+    const int asked = timesAsked;
+    label.update(0.04F);
+    label.draw();
+    const long taken = allocations.load() - before;
+    if (timesAsked != asked) {
+      ++quotes;
+      atQuotes += taken;
+    } else if (quotes > 1) {  // the first one fills the caches of fonts and glyphs
+      ASSERT_EQ(0, taken) << "frame " << i;
+    }
+  }
+  EXPECT_GE(quotes, 3);
+  EXPECT_GT(atQuotes, 0) << "the count works";
+}
+
+}  // namespace
