@@ -3,8 +3,8 @@
 #include <cstdlib>
 #include <new>
 
+#include "quotes/quotesFixture.h"
 #include "quotes/quotesSprite.h"
-#include "quotesFixture.h"
 
 namespace {
 

@@ -7,9 +7,9 @@
 
 #include "quotes/builtInQuotes.h"
 #include "quotes/quoteLines.h"
+#include "quotes/quotesFixture.h"
 #include "quotes/quotesStyle.h"
 #include "quotes/spriteParagraphDimming.h"
-#include "quotesFixture.h"
 
 namespace {
 

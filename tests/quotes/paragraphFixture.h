@@ -1,8 +1,8 @@
 // What the tests of paragraphs share: a paragraph on the window.
 #pragma once
 
+#include "quotes/quotesFixture.h"
 #include "quotes/spriteParagraphDimming.h"
-#include "quotesFixture.h"
 
 class DimmingParagraph : public QuotesOnAWindow {
  protected:

@@ -3,9 +3,9 @@
 
 #include <stdexcept>
 
+#include "quotes/quotesFixture.h"
 #include "quotes/quotesSprite.h"
 #include "quotes/quotesStyle.h"
-#include "quotesFixture.h"
 #include "support/random.h"
 
 class QuotesLabel : public QuotesOnAWindow {

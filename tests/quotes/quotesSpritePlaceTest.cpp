@@ -1,5 +1,5 @@
 // Where quotes appear.
-#include "quotesLabelFixture.h"
+#include "quotes/quotesLabelFixture.h"
 #include "sprites/wholePixel.h"
 
 namespace {

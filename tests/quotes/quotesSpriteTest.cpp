@@ -1,7 +1,7 @@
 // When quotes appear, and which.
 #include <utility>
 
-#include "quotesLabelFixture.h"
+#include "quotes/quotesLabelFixture.h"
 #include "support/settings.h"
 
 namespace {

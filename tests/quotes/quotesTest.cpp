@@ -4,7 +4,7 @@
 #include <set>
 
 #include "quotes/builtInQuotes.h"
-#include "quotesFixture.h"
+#include "quotes/quotesFixture.h"
 #include "support/assertion.h"
 #include "support/random.h"
 

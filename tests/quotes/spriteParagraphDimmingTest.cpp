@@ -1,5 +1,5 @@
 // How the lines of a paragraph follow one another.
-#include "paragraphFixture.h"
+#include "quotes/paragraphFixture.h"
 
 namespace {
 

@@ -1,5 +1,5 @@
 // How a paragraph is made, measured and drawn.
-#include "paragraphFixture.h"
+#include "quotes/paragraphFixture.h"
 
 namespace {
 

@@ -2,8 +2,8 @@
 #include <cmath>
 #include <limits>
 
+#include "quotes/quotesFixture.h"
 #include "quotes/spriteTextDimming.h"
-#include "quotesFixture.h"
 
 namespace {
 

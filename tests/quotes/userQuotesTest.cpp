@@ -1,5 +1,5 @@
 // How the user's own quotes are found and read.
-#include "quotesFixture.h"
+#include "quotes/quotesFixture.h"
 
 namespace {
 

@@ -1,0 +1,61 @@
+// Whatever stands in the user's file: every frame is quick.
+#include <algorithm>
+#include <ctime>
+
+#include "quotes/quotesLabelFixture.h"
+
+namespace {
+
+class HostileQuotes : public QuotesLabel {
+ protected:
+  // The longest of these frames by the time that the program worked on it, in milliseconds.
+  double longestFrame(int frames) {
+    double longest = 0.0;
+    for (int i = 0; i < frames; ++i) {
+      const std::clock_t start = std::clock();
+      label.update(frame);
+      label.draw();
+      const std::clock_t end = std::clock();
+      longest = std::max(longest, 1000.0 * static_cast<double>(end - start) / CLOCKS_PER_SEC);
+    }
+    return longest;
+  }
+
+  // Shows the only quote of a file with this content; the first frame with it counts, and some in which its
+  // lines fade in.
+  void expectQuickFrames(const std::string& content) {
+    const std::vector<std::string> texts = userQuotes(content);
+    ASSERT_EQ(1U, texts.size());
+    nextText = texts.front().c_str();
+    label.update(10.0F);
+    EXPECT_LT(longestFrame(120), 100.0);
+    EXPECT_EQ(1, timesAsked);
+  }
+};
+
+TEST_F(HostileQuotes, OfTenMillionCharactersAreShownInQuickFrames) {
+  expectQuickFrames(std::string(10'000'000, 'x') + "\n");
+}
+
+TEST_F(HostileQuotes, OfTenMillionBarsAreShownInQuickFrames) {
+  expectQuickFrames(std::string(10'000'000, '|') + "\n");
+}
+
+TEST_F(HostileQuotes, OfAMillionShortLinesAreShownInQuickFrames) {
+  std::string content;
+  for (int i = 0; i < 1'000'000; ++i) {
+    content += "moonlight|";
+  }
+  expectQuickFrames(content + "\n");
+}
+
+TEST_F(HostileQuotes, OfBytesThatAreNoTextAreShownInQuickFrames) {
+  std::string content;
+  for (int i = 0; i < 1'000'000; ++i) {
+    const char byte = static_cast<char>(i * 37);
+    content += byte == '\n' || byte == '\0' ? '?' : byte;
+  }
+  expectQuickFrames(content + "\n");
+}
+
+}  // namespace
