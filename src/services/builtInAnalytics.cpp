@@ -43,7 +43,8 @@ std::string youngerHalf(const std::string& lines) {
   return end == std::string::npos ? std::string() : lines.substr(end + 1);
 }
 
-// Adds a line of the file's own, and makes room for it where there is none. False, with a message, on failure.
+// Adds a line of the file's own, and makes room for it where there is none. False, with a message, on
+// failure.
 bool addLine(const std::string& path, const std::string& line, std::string& message) {
   const std::string before = xplFileSystemMini::fileExists(path)
                                  ? startOfFile(path, BuiltInAnalytics::maxFileSize + 1)
@@ -88,8 +89,8 @@ int BuiltInAnalytics::stop() {
   if (m_path.empty()) {
     return failed;  // the path's own result said so already
   }
-  const std::string line = "start=" + universalTime(m_startTime) + " stop=" + universalTime(xplClock::now()) +
-                           " " + m_product;
+  const std::string line =
+      "start=" + universalTime(m_startTime) + " stop=" + universalTime(xplClock::now()) + " " + m_product;
   std::string message;
   if (!addLine(m_path, line, message)) {
     m_errors = m_path + ": " + message;

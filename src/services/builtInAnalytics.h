@@ -1,4 +1,5 @@
-// Stands in where there is no analytics library: notes the session in a file of the user's, and sends nothing.
+// Stands in where there is no analytics library: notes the session in a file of the user's, and sends
+// nothing.
 #pragma once
 
 #include <cstdint>

@@ -7,10 +7,11 @@ class xpliKeepAwake {
  public:
   virtual ~xpliKeepAwake() = default;
 
-  // Asks for the system and its display to stay awake. False where that is refused or cannot be asked. Where the
-  // answer takes long it returns true meanwhile, and wasRefused() tells later.
+  // Asks for the system and its display to stay awake. False where that is refused or cannot be asked. Where
+  // the answer takes long it returns true meanwhile, and wasRefused() tells later.
   virtual bool request() = 0;
-  // Called once a frame while a request is in force: true, once, where its answer came late and was a refusal.
+  // Called once a frame while a request is in force: true, once, where its answer came late and was a
+  // refusal.
   virtual bool wasRefused() { return false; }
   // Gives the request back, where the platform holds one.
   virtual void release() = 0;

@@ -9,8 +9,8 @@
 
 class cPreventComputerSleep : public cAppSettings {
  public:
-  // Takes the platform's request over; without one every request fails. Reads the settings, switches an option off
-  // that has expired, and makes the request where one is in force.
+  // Takes the platform's request over; without one every request fails. Reads the settings, switches an
+  // option off that has expired, and makes the request where one is in force.
   explicit cPreventComputerSleep(std::unique_ptr<xpliKeepAwake> keepAwake,
                                  xplSettings& store = xplUserSettings());
   ~cPreventComputerSleep();

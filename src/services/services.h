@@ -9,13 +9,13 @@
 #include "services/keepAwake.h"
 #include "services/soundOutput.h"
 
-// How the saver comes by the services of its platform. An empty member means that it does without: a saver with
-// xplServices{} plays no sound, prevents no sleep and reports nothing, as tests want it.
+// How the saver comes by the services of its platform. An empty member means that it does without: a saver
+// with xplServices{} plays no sound, prevents no sleep and reports nothing, as tests want it.
 struct xplServices {
   std::function<std::unique_ptr<xpliSoundOutput>()> makeSoundOutput;
   std::function<std::unique_ptr<xpliKeepAwake>()> makeKeepAwake;
-  // The vendor's library from the program's folder where it is there, else the built-in stand-in. May be called on
-  // any thread.
+  // The vendor's library from the program's folder where it is there, else the built-in stand-in. May be
+  // called on any thread.
   std::function<std::unique_ptr<xpliAnalytics>(const std::string& programFolder)> makeAnalytics;
 
   // The real ones, for the programs that users start.

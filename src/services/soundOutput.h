@@ -1,8 +1,8 @@
 // What plays the program's sounds: one at a time, without anybody waiting for it.
 #pragma once
 
-// Filled by each platform (services/platform.h). All calls come from one thread, and none of them waits for the
-// sound system. What cannot be played is silent.
+// Filled by each platform (services/platform.h). All calls come from one thread, and none of them waits for
+// the sound system. What cannot be played is silent.
 class xpliSoundOutput {
  public:
   virtual ~xpliSoundOutput() = default;

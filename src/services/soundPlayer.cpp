@@ -64,9 +64,9 @@ void cSoundPlayer::startBackgroundSound() {
   playSound(m_settings.snd_selectedSound.read(), m_settings.snd_loopSound.read());
 }
 
-// Deliberate: the clock strikes once, whatever the hour, and only where a check fell into the last minute of the
-// hour before. A background sound that it interrupts does not come back: that is started once, with the sky. Do
-// not resume it.
+// Deliberate: the clock strikes once, whatever the hour, and only where a check fell into the last minute of
+// the hour before. A background sound that it interrupts does not come back: that is started once, with the
+// sky. Do not resume it.
 void cSoundPlayer::checkHourlySound(float elapsedSec) {
   if (!m_settings.snd_cookooEveryHour.read()) {
     return;

@@ -14,8 +14,10 @@ cTelemetryController::cTelemetryController(MakeAnalytics makeAnalytics) {
   if (!xplFileSystemMini::folderExists(folder)) {
     xplFileSystemMini::createFolder(folder);  // without it the library tells what it thinks of the path
   }
+  // The settings belong to this thread; the other one only learns what they say.
+  const bool isAllowed = !cAppSettings().sisableTelemetry.read();
   const logFunctionLife block("creating telemetry thread");
-  startThread(std::move(makeAnalytics), folder);
+  startThread(std::move(makeAnalytics), folder, isAllowed);
 }
 
 cTelemetryController::~cTelemetryController() {
@@ -35,9 +37,8 @@ std::string cTelemetryController::cacheFolder() {
   return xplFileSystemMini::joinPath(xplFileSystemMini::getFolder_CommonAppData(), "Lunaria software");
 }
 
-void cTelemetryController::startThread(MakeAnalytics makeAnalytics, const std::string& folder) {
-  // The settings belong to this thread; the other one only learns what they say.
-  const bool isAllowed = !cAppSettings().sisableTelemetry.read();
+void cTelemetryController::startThread(MakeAnalytics makeAnalytics, const std::string& folder,
+                                       bool isAllowed) {
   try {
     m_thread = std::make_unique<std::thread>([this, isAllowed, folder, make = std::move(makeAnalytics)] {
       if (!isAllowed) {

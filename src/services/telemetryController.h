@@ -9,8 +9,9 @@
 
 class cTelemetryController : public cTelemetryDoAllSteps_Trackerbird {
  public:
-  // Makes the folder for the library's files and starts the thread. Without a thread (the system has none to give)
-  // nothing is reported. `makeAnalytics` is called on the thread, and only where the user's settings allow reports.
+  // Makes the folder for the library's files and starts the thread. Without a thread (the system has none to
+  // give) nothing is reported. `makeAnalytics` is called on the thread, and only where the user's settings
+  // allow reports.
   explicit cTelemetryController(MakeAnalytics makeAnalytics);
   // Asks the thread to give up and waits for it: one wait step and one call of the library at most.
   ~cTelemetryController();
@@ -21,7 +22,7 @@ class cTelemetryController : public cTelemetryDoAllSteps_Trackerbird {
   static std::string cacheFolder();
 
  private:
-  void startThread(MakeAnalytics makeAnalytics, const std::string& folder);
+  void startThread(MakeAnalytics makeAnalytics, const std::string& folder, bool isAllowed);
 
   std::unique_ptr<std::thread> m_thread;
 };

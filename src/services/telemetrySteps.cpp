@@ -7,9 +7,9 @@
 
 namespace {
 
-constexpr unsigned waitStep = 50;                   // milliseconds
-constexpr std::int64_t waitBeforeStart = 23'000;    // milliseconds: who looks in for a moment is not counted
-constexpr std::int64_t waitBeforeStop = 4'000;      // milliseconds: the library's time to deliver
+constexpr unsigned waitStep = 50;                 // milliseconds
+constexpr std::int64_t waitBeforeStart = 23'000;  // milliseconds: who looks in for a moment is not counted
+constexpr std::int64_t waitBeforeStop = 4'000;    // milliseconds: the library's time to deliver
 
 void setCachePath(xpliAnalytics& library, const std::string& folder) {
   const int result = library.setFilePath(folder);

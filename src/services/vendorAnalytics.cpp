@@ -11,8 +11,8 @@ namespace {
 
 constexpr int noSuchFunction = -1;
 
-// The library's functions. Flags and the session argument are passed in whole machine words, which read as zero
-// whatever narrower type the library gave them.
+// The library's functions. Flags and the session argument are passed in whole machine words, which read as
+// zero whatever narrower type the library gave them.
 using Word = std::intptr_t;
 using SetFilePath = int(const wchar_t* folder);
 using CreateConfig = int(const wchar_t* address, const wchar_t* productId, const wchar_t* productVersion,
@@ -68,10 +68,10 @@ int VendorAnalytics::setFilePath(const std::string& folder) {
 int VendorAnalytics::createConfig(const std::string& address, const std::string& productId,
                                   const std::string& productVersion, const std::string& buildStamp,
                                   bool collectsMore) {
-  return noteFailure("tbCreateConfig",
-                     call<CreateConfig>("tbCreateConfig", xplWiden(address).c_str(),
-                                        xplWiden(productId).c_str(), xplWiden(productVersion).c_str(),
-                                        xplWiden(buildStamp).c_str(), Word{collectsMore}));
+  return noteFailure(
+      "tbCreateConfig",
+      call<CreateConfig>("tbCreateConfig", xplWiden(address).c_str(), xplWiden(productId).c_str(),
+                         xplWiden(productVersion).c_str(), xplWiden(buildStamp).c_str(), Word{collectsMore}));
 }
 
 int VendorAnalytics::start() {

@@ -7,8 +7,8 @@
 #include "services/analytics.h"
 #include "services/platform.h"
 
-// A function that the library lacks, and a call that fails, are pending errors; the other calls are made all the
-// same.
+// A function that the library lacks, and a call that fails, are pending errors; the other calls are made all
+// the same.
 class VendorAnalytics : public xpliAnalytics {
  public:
   // Null where the folder (a full path) holds no such library, or one that is not to be trusted or cannot be

@@ -63,10 +63,11 @@ TEST_F(PreventComputerSleep, AFreshInstallationDoesNotPrevent) {
 
 TEST_F(PreventComputerSleep, BothTimedModesPreventUntilTheirEnd) {
   for (const int mode : {1, 2}) {
-    const auto preventer = make(mode, 120);
+    auto preventer = make(mode, 120);
     EXPECT_TRUE(preventer->isActive());
     EXPECT_TRUE(preventer->isPreventing());
     EXPECT_THAT(record.calls, ElementsAre("request"));
+    preventer.reset();
     record.calls.clear();
   }
 }

@@ -29,11 +29,12 @@ class SoundPlayer : public PrivateFolders {
   }
   // A check at the last second of an hour and one after it.
   Calls callsWhenItTurns(int hour) {
-    const auto player = makePlayer();
+    auto player = makePlayer();
     setLocalTime(hour == 0 ? 23 : hour - 1, 59, 59);
     player->checkHourlySound(1.5F);
     setLocalTime(hour, 0, 0);
     player->checkHourlySound(1.5F);
+    player.reset();
     return std::exchange(calls, {});
   }
 
@@ -125,7 +126,8 @@ TEST_F(SoundPlayer, TheClockStrikesAtTheFirstCheckOfTheHour) {
 TEST_F(SoundPlayer, KeptFromSevenToNineItIsTheMorningSoundAndOtherwiseTheCuckoo) {
   for (int hour = 0; hour < 24; ++hour) {
     const bool isMorning = hour >= 7 && hour <= 9;
-    EXPECT_THAT(callsWhenItTurns(hour), ElementsAre("stop", "stop", isMorning ? "play 114" : "play 111", "stop"))
+    EXPECT_THAT(callsWhenItTurns(hour),
+                ElementsAre("stop", "stop", isMorning ? "play 114" : "play 111", "stop"))
         << hour;
   }
 }

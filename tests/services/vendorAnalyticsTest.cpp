@@ -73,9 +73,11 @@ class Vendor : public PrivateFolders {
     library.start();
     library.stop();
   }
-  // A folder of the program's own, with this file under the name of the vendor's library.
+  // A folder of the program's own, with this file under the name of the vendor's library. Each has another
+  // name: a path that was loaded once stays loaded, whatever lies there later.
   std::string folderWith(const std::string& source) const {
-    const std::string folder = xplFileSystemMini::joinPath(root(), "program");
+    static int number = 0;
+    const std::string folder = xplFileSystemMini::joinPath(root(), "program" + std::to_string(++number));
     xplFileSystemMini::createFolder(folder);
     std::filesystem::permissions(folder, std::filesystem::perms::owner_all);
     const std::string target = xplFileSystemMini::joinPath(folder, xplAnalyticsLibraryName());

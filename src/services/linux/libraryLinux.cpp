@@ -26,8 +26,8 @@ bool othersCanWrite(const struct stat& status) {
   return (status.st_mode & (S_IWGRP | S_IWOTH)) != 0;
 }
 
-// A folder above: whoever can write into it could put another folder in the place of the one below, unless it is
-// one in which everybody may only touch what is theirs.
+// A folder above: whoever can write into it could put another folder in the place of the one below, unless it
+// is one in which everybody may only touch what is theirs.
 bool keepsItsFolders(const struct stat& status) {
   return !othersCanWrite(status) || (status.st_mode & S_ISVTX) != 0;
 }

@@ -24,8 +24,8 @@ void ignoreReport(const char* /*file*/, int /*line*/, const char* /*function*/, 
 
 }  // namespace
 
-// SDL's audio alone is started, and not its events as SDL_InitSubSystem would: those catch signals, which end the
-// saver, and take a tenth of a second to stop.
+// SDL's audio alone is started, and not its events as SDL_InitSubSystem would: those catch signals, which end
+// the saver, and take a tenth of a second to stop.
 SdlSound::System::System() {
   snd_lib_error_set_handler(ignoreReport);
   SDL_SetHint(SDL_HINT_AUDIO_DEVICE_APP_NAME, "Lunaria");

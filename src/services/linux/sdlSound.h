@@ -9,8 +9,8 @@
 
 #include <SDL.h>
 
-// Decodes a WAVE file in memory and plays it. Making and destroying one may wait for the sound system; only one lives
-// at a time.
+// Decodes a WAVE file in memory and plays it. Making and destroying one may wait for the sound system; only
+// one lives at a time.
 class SdlSound {
  public:
   // wave: the bytes of the file, needed during this call alone. loop: start again at the end, without a gap.

@@ -13,7 +13,8 @@
 
 class SoundOutputLinux : public xpliSoundOutput {
  public:
-  // The bytes of the WAVE resource of this id, which live as long as the process; nothing where there is none.
+  // The bytes of the WAVE resource of this id, which live as long as the process; nothing where there is
+  // none.
   using FindSound = std::function<std::optional<std::span<const std::uint8_t>>(int resourceId)>;
 
   explicit SoundOutputLinux(FindSound findSound) : m_findSound(std::move(findSound)) {}

@@ -24,8 +24,8 @@ struct SoundWorker::State {
 
 namespace {
 
-// A worker that was left behind still holds the sound system. No second one goes near it: the rest of the run is
-// silent.
+// A worker that was left behind still holds the sound system. No second one goes near it: the rest of the run
+// is silent.
 std::atomic<bool>& systemIsLost() {
   static std::atomic<bool> lost{false};
   return lost;

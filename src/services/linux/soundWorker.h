@@ -12,19 +12,20 @@ class SoundWorker {
  public:
   // Starts the thread. Throws std::system_error where there is none to be had.
   SoundWorker();
-  // Ends the sound and the thread. A thread that the sound system does not let go is left behind after longestEnd.
+  // Ends the sound and the thread. A thread that the sound system does not let go is left behind after
+  // longestEnd.
   ~SoundWorker();
   SoundWorker(const SoundWorker&) = delete;
   SoundWorker& operator=(const SoundWorker&) = delete;
 
-  // The process's one worker, made by the first who asks and gone with the last who holds it. To be called from one
-  // thread.
+  // The process's one worker, made by the first who asks and gone with the last who holds it. To be called
+  // from one thread.
   static std::shared_ptr<SoundWorker> shared();
   // The same where it lives, else null.
   static std::shared_ptr<SoundWorker> sharedIfAny();
 
-  // Each ends what plays and what was asked for before. They wait for nothing. `wave`, the bytes of a WAVE file,
-  // must live as long as the process.
+  // Each ends what plays and what was asked for before. They wait for nothing. `wave`, the bytes of a WAVE
+  // file, must live as long as the process.
   void play(std::span<const std::uint8_t> wave, bool loop);
   void stop();
 

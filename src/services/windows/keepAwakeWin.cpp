@@ -5,8 +5,8 @@
 
 namespace {
 
-// Deliberate: without ES_CONTINUOUS the request resets the platform's idle timers once and leaves no lasting state,
-// so that there is none to clear when the saver ends, however it ends. Do not add the flag.
+// Deliberate: without ES_CONTINUOUS the request resets the platform's idle timers once and leaves no lasting
+// state, so that there is none to clear when the saver ends, however it ends. Do not add the flag.
 constexpr EXECUTION_STATE stayAwake = ES_SYSTEM_REQUIRED | ES_DISPLAY_REQUIRED | ES_AWAYMODE_REQUIRED;
 static_assert(stayAwake == 67);
 

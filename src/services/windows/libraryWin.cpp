@@ -20,8 +20,8 @@ class SharedLibrary : public xpliSharedLibrary {
 }  // namespace
 
 std::unique_ptr<xpliSharedLibrary> xplLoadLibrary(const std::string& path, std::string& reason) {
-  const HMODULE handle = LoadLibraryExA(path.c_str(), nullptr,
-                                        LOAD_LIBRARY_SEARCH_DLL_LOAD_DIR | LOAD_LIBRARY_SEARCH_SYSTEM32);
+  const HMODULE handle =
+      LoadLibraryExA(path.c_str(), nullptr, LOAD_LIBRARY_SEARCH_DLL_LOAD_DIR | LOAD_LIBRARY_SEARCH_SYSTEM32);
   if (handle == nullptr) {
     reason = "error " + std::to_string(GetLastError());
     return nullptr;

@@ -18,8 +18,7 @@ constexpr ACCESS_MASK changeRights = FILE_WRITE_DATA | FILE_APPEND_DATA | FILE_D
 // With these one puts another folder in the place of one below.
 constexpr ACCESS_MASK replaceRights = FILE_DELETE_CHILD | WRITE_DAC | WRITE_OWNER | GENERIC_ALL;
 // The account under which Windows installs itself; it has no well-known number.
-constexpr char trustedInstaller[] =
-    "S-1-5-80-956008885-3418522649-1831038044-1853292631-2271478464";
+constexpr char trustedInstaller[] = "S-1-5-80-956008885-3418522649-1831038044-1853292631-2271478464";
 
 // Memory that the system gave out, freed with the object.
 template <class T>
@@ -114,8 +113,9 @@ bool xplOnlyUserCanChange(const std::string& path, std::string& reason) {
   bool isOwn = isOursAlone(path, changeRights);
   for (bool isNearest = true; isOwn; isNearest = false) {
     const bool isRoot = folder.size() < rootLength;
-    isOwn = isOursAlone(isRoot ? folder + "\\" : folder,
-                        isNearest ? changeRights : isRoot ? replaceRights : replaceRights | DELETE);
+    isOwn = isOursAlone(isRoot ? folder + "\\" : folder, isNearest ? changeRights
+                                                         : isRoot  ? replaceRights
+                                                                   : replaceRights | DELETE);
     if (isRoot) {
       break;
     }
