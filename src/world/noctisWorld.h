@@ -12,6 +12,7 @@
 #include "sprites/moveRestriction.h"
 #include "sprites/spriteDirector.h"
 #include "sprites/spriteText.h"
+#include "world/airplane.h"
 #include "world/msgStarDirector.h"
 #include "world/skyBackground.h"
 #include "world/starWithPixels.h"
@@ -21,6 +22,7 @@ class TnoctisWorld {
   static constexpr std::int32_t previewMonitorId = -1;
   static constexpr std::size_t starCount = 200;
   static constexpr std::size_t msgStarCount = 1500;
+  static constexpr std::size_t airplaneCount = 3;
 
   // Borrows the window (null for none) and the monitor list (screen coordinates, the main monitor first);
   // both must outlive the world. monitorId: 0 for the normal run, -1 for the preview. containerFolder: the
@@ -51,6 +53,7 @@ class TnoctisWorld {
   const cStarSpriteWithPixels& star(std::size_t index) const { return *m_stars[index]; }
   const cMsgStar& msgStar(std::size_t index) const { return *m_msgStars[index]; }
   const cMsgStarDirector& msgStarDirector() const { return m_msgStarDirector; }
+  const cAirplane& airplane(std::size_t index) const { return m_airplanes[index]; }
 
  private:
   void createStars();
@@ -60,6 +63,7 @@ class TnoctisWorld {
   void initializeStars();
   void initializeMsgStars();
   void initializeBottomLine();
+  void initializeAirplanes();
   bool isNextMessageDue() const;
   void parkBottomLine();
 
@@ -73,6 +77,7 @@ class TnoctisWorld {
   TorvSpriteText m_bottomLine{"bottomLine"};
   std::array<std::unique_ptr<cStarSpriteWithPixels>, starCount> m_stars;
   std::array<std::unique_ptr<cMsgStar>, msgStarCount> m_msgStars;
+  std::array<cAirplane, airplaneCount> m_airplanes;
   xplColor m_backgroundColor{0, 0, 0};
   std::vector<std::unique_ptr<cSkyBackground>> m_backgrounds;
   cMsgStarDirector m_msgStarDirector;

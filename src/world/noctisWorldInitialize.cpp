@@ -29,6 +29,7 @@ void TnoctisWorld::initializeWorld() {
   initializeStars();
   initializeMsgStars();
   guarded("initializeBottomLine() exception", [this] { initializeBottomLine(); });
+  initializeAirplanes();
   m_spriteDirector.setRenderWindowAll(m_window);
 }
 
@@ -73,4 +74,11 @@ void TnoctisWorld::initializeBottomLine() {
   m_bottomLine.y =
       std::min(0.95F * static_cast<float>(m_windowRect.height), static_cast<float>(m_windowRect.height - 22));
   m_bottomLine.disable();
+}
+
+void TnoctisWorld::initializeAirplanes() {
+  for (auto& airplane : m_airplanes) {
+    m_spriteDirector.addSprite(airplane);
+    airplane.addMoveRestriction(m_continueInsideWindow);
+  }
 }

@@ -202,6 +202,40 @@ TEST_F(World, MovesNoStarFurtherThanItsSpeedAllows) {
   EXPECT_FLOAT_EQ(before + world->star(0).speedX * 0.04F, world->star(0).x);
 }
 
+TEST_F(World, FliesThreeAirplanesThatComeBackOnTheOtherSide) {
+  xplRandom::seed(3);
+  const auto world = makeWorld(64, 48);
+  world->initializeWorld();
+  for (std::size_t i = 0; i < TnoctisWorld::airplaneCount; ++i) {
+    EXPECT_FALSE(world->airplane(i).isPositioned());
+  }
+  for (int i = 0; i < 2000; ++i) {
+    world->update(0.04F);
+    for (std::size_t k = 0; k < TnoctisWorld::airplaneCount; ++k) {
+      const auto& airplane = world->airplane(k);
+      ASSERT_TRUE(airplane.isPositioned());
+      // Looked at on every tenth move, at less than a pixel a move.
+      ASSERT_GT(airplane.x, -11.0F);
+      ASSERT_LT(airplane.x, 64.0F + 11.0F);
+      ASSERT_GT(airplane.y, -11.0F);
+      ASSERT_LT(airplane.y, 48.0F + 11.0F);
+    }
+  }
+}
+
+TEST_F(World, DrawsTheAirplanesOverTheStars) {
+  xplRandom::seed(3);
+  const auto world = makeWorld(64, 48);
+  world->initializeWorld();
+  world->update(0.04F);
+  world->draw();
+  for (std::size_t i = 0; i < TnoctisWorld::airplaneCount; ++i) {
+    const auto& airplane = world->airplane(i);
+    const xplColor expected = airplane.isLightOn() ? xplColor(255, 0, 0) : xplColor(192, 192, 192);
+    EXPECT_EQ(expected, window->getPixel(static_cast<int>(airplane.x), static_cast<int>(airplane.y)));
+  }
+}
+
 TEST_F(World, SurvivesWindowsOfAllSizes) {
   for (const auto& [width, height] : std::vector<std::pair<int, int>>{{1, 1}, {1, 200}, {64, 48}, {900, 2}}) {
     const auto world = makeWorld(width, height);
