@@ -76,7 +76,8 @@ const char* xplAnalyticsLibraryName() {
 }
 
 std::wstring xplWiden(const std::string& text) {
-  const std::u32string characters = decodeUtf8(text);
   static_assert(sizeof(wchar_t) == sizeof(char32_t));
-  return std::wstring(characters.begin(), characters.end());
+  std::wstring wide;
+  forEachCharacter(text, [&wide](char32_t character) { wide += static_cast<wchar_t>(character); });
+  return wide;
 }
