@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "sounds/curve.h"
+#include "sounds/exactMath.h"
 #include "sounds/filter.h"
 #include "sounds/reverb.h"
 #include "sounds/sounds.h"
@@ -61,15 +62,17 @@ constexpr std::array<Syllable, 6> hedge = {{{0.00, 0.11, 3120, 3080, 3040, 0.8},
 constexpr std::array<Syllable, 3> dove = {
     {{0.00, 0.30, 430, 462, 450, 0.7}, {0.46, 0.62, 452, 490, 462, 1.0}, {1.24, 0.46, 448, 455, 432, 0.7}}};
 
+// Level is an amplitude.
 void sing(Track& track, double start, double level, std::span<const Syllable> phrase,
           std::span<const Partial> voice) {
   for (const Syllable& syllable : phrase) {
     const double end = syllable.seconds;
     const double loudness = level * syllable.level;
-    addSungTone(
-        track, {start + syllable.start,
-                Curve({{0.0, syllable.from}, {end * 0.5, syllable.over}, {end, syllable.to}}),
-                Curve({{0.0, 0.0}, {end * 0.35, loudness}, {end * 0.6, loudness * 0.9}, {end, 0.0}}), voice});
+    const Curve line({{0.0, syllable.from}, {end * 0.5, syllable.over}, {end, syllable.to}});
+    // A throat is no flute: it trembles, the more the longer it holds a note.
+    const auto pitch = [&line](double at) { return line(at) * (1.0 + 0.03 * at * sineOfTurns(19.0 * at)); };
+    const Curve loud({{0.0, 0.0}, {end * 0.35, loudness}, {end * 0.6, loudness * 0.9}, {end, 0.0}});
+    addSungTone(track, {start + syllable.start, pitch, loud, voice});
   }
 }
 

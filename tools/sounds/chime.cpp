@@ -20,8 +20,9 @@ constexpr std::array<Partial, 6> bar = {{{1.0, 0.60, 4.2},
                                          {9.9, 0.015, 0.25}}};
 constexpr double felt = 0.022;  // seconds
 
-// Beats are seconds. E flat: a figure that rises and turns back, its answer, and a low bell under each.
-constexpr std::array<Note, 11> notes = {{
+// Beats are seconds. E flat, then A flat: a figure that rises and turns back, its answer, and a low bell
+// under each.
+constexpr std::array<Note, 12> notes = {{
     {0.00, 63, 0.75},
     {0.55, 70, 0.80},
     {1.10, 79, 0.85},
@@ -32,7 +33,8 @@ constexpr std::array<Note, 11> notes = {{
     {5.00, 75, 0.58},
     {5.75, 70, 0.46},
     {6.50, 67, 0.30},  // answer
-    {3.90, 48, 0.42},  //
+    {3.90, 44, 0.22},
+    {3.90, 56, 0.34},  //
 }};
 
 }  // namespace

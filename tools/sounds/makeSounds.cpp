@@ -19,11 +19,11 @@ struct Sound {
 };
 
 constexpr std::array<Sound, 8> sounds = {{
-    {"sleeping-with-the-one-i-love", sleepingWithTheOneILove, -4.3, writeAdpcm},
+    {"sleeping-with-the-one-i-love", sleepingWithTheOneILove, -5.6, writeAdpcm},
     {"sleep-reminder", sleepReminder, -6.0, writeAdpcm},
     {"lullaby", lullaby, -6.0, writeAdpcm},
     {"ocean-waves", oceanWaves, -3.5, writeAdpcm},
-    {"birds", birds, -9.2, writePcm8},
+    {"birds", birds, -10.2, writePcm8},
     {"feeling-blue", feelingBlue, -4.0, writePcm8},
     {"cuckoo", cuckoo, -10.0, writePcm8},
     {"rooster", rooster, -10.0, writePcm8},

@@ -38,7 +38,8 @@ void playMusicBox(Track& track, std::span<const Note> notes, double beatSeconds)
 
 Track sleepingWithTheOneILove() {
   constexpr int rate = 22050;
-  Track track(rate, wholeBlocks(6.9, rate), Ending::Loops);
+  const std::size_t length = wholeBlocks(6.9, rate);
+  Track track(rate, 2 * length, Ending::Silent);
   // Beats are eighths, six a bar. Two voices that wander in sixths and thirds and come home together.
   constexpr std::array<Note, 34> notes = {{
       {0, 78, 0.90},  {2, 76, 0.65},    {3, 81, 0.85},    {5, 78, 0.60},   // melody, first bar
@@ -51,15 +52,16 @@ Track sleepingWithTheOneILove() {
       {12, 64, 0.48}, {13, 67, 0.28},   {15, 57, 0.45},   {16, 67, 0.26},  // E minor, A with its seventh
       {18, 50, 0.50}, {18.3, 57, 0.34}, {18.6, 66, 0.32}, {22, 69, 0.14},  // D, rolled
   }};
-  const double bars = 24.0;
-  playMusicBox(track, notes, static_cast<double>(track.samples.size()) / rate / bars);
+  const double beats = 25.5;  // with a breath at the end
+  playMusicBox(track, notes, static_cast<double>(length) / rate / beats);
   addRoom(track, {1.0, 1.3, 0.42, 0.5});
-  return track;
+  return track.settled(length, 0.9, 0.06);
 }
 
 Track lullaby() {
   constexpr int rate = 11025;
-  Track track(rate, wholeBlocks(9.2, rate), Ending::Loops);
+  const std::size_t length = wholeBlocks(9.2, rate);
+  Track track(rate, 2 * length, Ending::Silent);
   // Beats are quarters, three a bar; the low voice rocks in eighths.
   constexpr std::array<Note, 34> notes = {{
       {0, 81, 0.90}, {1.5, 84, 0.70}, {2, 79, 0.75},                  // melody, first bar
@@ -75,7 +77,7 @@ Track lullaby() {
       {9, 53, 0.46}, {9.5, 60, 0.28}, {10, 69, 0.26}, {11, 72, 0.14},  // F
   }};
   const double beats = 12.0;
-  playMusicBox(track, notes, static_cast<double>(track.samples.size()) / rate / beats);
+  playMusicBox(track, notes, static_cast<double>(length) / rate / beats);
   addRoom(track, {1.0, 1.2, 0.5, 0.45});
-  return track;
+  return track.settled(length, 0.9, 0.06);
 }

@@ -1,6 +1,7 @@
 // Tones built of partials: struck ones that ring out, and sung ones that follow lines of pitch and loudness.
 #pragma once
 
+#include <functional>
 #include <span>
 
 #include "sounds/curve.h"
@@ -30,9 +31,9 @@ double keptAt(double frequency, int rate);
 
 // A tone that follows its lines. Partials' seconds are not used.
 struct SungTone {
-  double start;     // seconds
-  Curve frequency;  // hertz over the seconds of the tone
-  Curve level;      // amplitude; the tone ends where this line ends
+  double start;                             // seconds
+  std::function<double(double)> frequency;  // hertz at a moment in seconds of the tone
+  Curve level;                              // amplitude; the tone ends where this line ends
   std::span<const Partial> partials;
 };
 void addSungTone(Track& track, const SungTone& tone);

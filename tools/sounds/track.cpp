@@ -31,6 +31,21 @@ void Track::normalize(double peakDecibels) {
   }
 }
 
+Track Track::settled(std::size_t length, double seconds, double strength) const {
+  Track loop(rate, length, Ending::Loops);
+  const std::size_t sinking = indexOf(seconds);
+  for (std::size_t i = 0; i < samples.size(); ++i) {
+    double factor = 1.0;
+    if (i + sinking > length) {
+      const double sunk =
+          std::min(1.0, static_cast<double>(i + sinking - length) / static_cast<double>(sinking));
+      factor = strength + (1.0 - strength) * (0.5 + 0.5 * cosineOfTurns(0.5 * sunk));
+    }
+    loop.add(i, factor * samples[i]);
+  }
+  return loop;
+}
+
 void Track::fade(double inSeconds, double outSeconds) {
   const std::size_t in = indexOf(inSeconds);
   const std::size_t out = indexOf(outSeconds);

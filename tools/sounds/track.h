@@ -32,6 +32,11 @@ struct Track {
   // Scales so that the loudest sample has this level, in decibels below full scale (at most 0).
   void normalize(double peakDecibels);
 
+  // The sound brought to a shorter length, to be repeated: what rings beyond the end goes on at the start.
+  // Over its last seconds it sinks to the given part of its strength, so that it ends in quiet where it is
+  // played once.
+  Track settled(std::size_t length, double seconds, double strength) const;
+
   // Lets the sound come out of silence and go back into it over these seconds.
   void fade(double inSeconds, double outSeconds);
 };
