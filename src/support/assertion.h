@@ -1,7 +1,8 @@
 // Debug assertions: they report to the log's error writer and never stop the program.
 #pragma once
 
-// Writes an error entry with the condition, the text, the source's name and the line. For xplAssert only.
+// Writes an error entry with the condition, the text, the source's name and the line. For xplAssert, and for
+// the few places whose reported line does not move with the code.
 void xplReportFailedAssertion(const char* condition, const char* text, const char* source, int line);
 
 // True in builds whose assertions report.

@@ -47,6 +47,14 @@ class xplClock {
   // Local broken-down time of a moment; nothing where the platform cannot tell (a year that does not fit).
   static std::optional<std::tm> localTime(std::int64_t seconds);
 
+  // Broken-down UTC of a moment (no daylight saving time); nothing as above.
+  static std::optional<std::tm> universalTime(std::int64_t seconds);
+  // The moment of a broken-down local time: its year, month, day, hour, minute and second, each in its usual
+  // range. tm_isdst: 0 reads it as the zone's standard time, above 0 as its summer time, below 0 as the one
+  // in force. A local time that a change of the clocks leaves out gives a moment within the change; of one
+  // that comes twice, either. Nothing where the platform cannot tell.
+  static std::optional<std::int64_t> momentOfLocalTime(const std::tm& local);
+
   // Replaces the source until the object goes; the source is borrowed and must outlive it. Uses nest.
   class Override {
    public:

@@ -43,3 +43,42 @@ TEST_F(ClockLinux, StampOfTheLogIsLocalTime) {
   logInfo().add("text");
   EXPECT_NE(logText().find("     \t2016-05-21  16:15:01\nInfo>\ttext\n"), std::string::npos);
 }
+
+namespace {
+
+// 21 May 2016 21:15 in the local time of the zone.
+std::int64_t momentInMay(int daylightFlag) {
+  std::tm local{};
+  local.tm_year = 116;
+  local.tm_mon = 4;
+  local.tm_mday = 21;
+  local.tm_hour = 21;
+  local.tm_min = 15;
+  local.tm_isdst = daylightFlag;
+  return xplClock::momentOfLocalTime(local).value_or(0);
+}
+
+}  // namespace
+
+TEST_F(ClockLinux, MomentOfLocalTimeFollowsTheZone) {
+  environment.set("TZ", "UTC");
+  EXPECT_EQ(momentInMay(-1), 1463865300);
+  environment.set("TZ", "Asia/Kolkata");
+  EXPECT_EQ(momentInMay(-1), 1463865300 - 19800);
+  environment.set("TZ", "America/St_Johns");
+  EXPECT_EQ(momentInMay(-1), 1463865300 + 9000);
+  environment.set("TZ", "Pacific/Auckland");
+  EXPECT_EQ(momentInMay(-1), 1463865300 - 43200);
+}
+
+TEST_F(ClockLinux, MomentOfLocalTimeReadsItAsTheFlagSays) {
+  environment.set("TZ", "CET-1CEST,M3.5.0,M10.5.0/3");
+  EXPECT_EQ(momentInMay(-1), 1463865300 - 7200);
+  EXPECT_EQ(momentInMay(1), 1463865300 - 7200);
+  EXPECT_EQ(momentInMay(0), 1463865300 - 3600);
+}
+
+TEST_F(ClockLinux, TheLastSecondOf1969IsAMoment) {
+  environment.set("TZ", "UTC");
+  EXPECT_EQ(xplClock::momentOfLocalTime(*xplClock::universalTime(-1)), -1);
+}
