@@ -9,7 +9,7 @@
 #include <string_view>
 #include <utility>
 
-#include "support/clock.h"
+#include "support/timeCounter.h"
 
 #if defined(__clang__)
 #define XPL_PRINTF_LIKE(formatIndex, firstArgument) \
@@ -143,5 +143,5 @@ class logTimeCountrer : public logFunctionLife {
   ~logTimeCountrer();
 
  private:
-  xplInstant m_start;
+  xplTimeCounter m_counter;
 };

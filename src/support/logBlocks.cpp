@@ -25,12 +25,8 @@ logBlockOfCode::~logBlockOfCode() {
   end(m_endWord, m_name);
 }
 
-logTimeCountrer::logTimeCountrer(std::string name)
-    : logFunctionLife(std::move(name)), m_start(xplClock::preciseNow()) {}
+logTimeCountrer::logTimeCountrer(std::string name) : logFunctionLife(std::move(name)) {}
 
 logTimeCountrer::~logTimeCountrer() {
-  const xplInstant end = xplClock::preciseNow();
-  const double elapsed = static_cast<double>(end.seconds - m_start.seconds) +
-                         static_cast<double>(end.microseconds - m_start.microseconds) / 1e6;
-  m_name += stringFormat(". Duration:%.3f sec", elapsed);
+  m_name += stringFormat(". Duration:%.3f sec", m_counter.seconds());
 }

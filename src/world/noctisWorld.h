@@ -13,6 +13,7 @@
 #include "sprites/spriteDirector.h"
 #include "sprites/spriteText.h"
 #include "world/airplane.h"
+#include "world/frameRateSprite.h"
 #include "world/msgStarDirector.h"
 #include "world/skyBackground.h"
 #include "world/starWithPixels.h"
@@ -54,6 +55,7 @@ class TnoctisWorld {
   const cMsgStar& msgStar(std::size_t index) const { return *m_msgStars[index]; }
   const cMsgStarDirector& msgStarDirector() const { return m_msgStarDirector; }
   const cAirplane& airplane(std::size_t index) const { return m_airplanes[index]; }
+  const cFrameRateSprite& frameRateLabel() const { return m_frameRateLabel; }
 
  private:
   void createStars();
@@ -85,4 +87,5 @@ class TnoctisWorld {
   const std::vector<xplRect<int>>* m_monitorList;
   cSkyBackground* m_skyBackground = nullptr;  // one of m_backgrounds
   std::string m_containerFolder;
+  cFrameRateSprite m_frameRateLabel;
 };

@@ -28,6 +28,8 @@ void TnoctisWorld::initializeWorld() {
   guarded("initializeBackground() exception", [this] { initializeBackground(); });
   initializeStars();
   initializeMsgStars();
+  // Kept out of the director: whoever measures the program enables it and adds it there.
+  m_frameRateLabel.disable();
   guarded("initializeBottomLine() exception", [this] { initializeBottomLine(); });
   initializeAirplanes();
   m_spriteDirector.setRenderWindowAll(m_window);

@@ -223,6 +223,18 @@ TEST_F(World, FliesThreeAirplanesThatComeBackOnTheOtherSide) {
   }
 }
 
+TEST_F(World, HasAFrameRateLabelThatIsNotShown) {
+  const auto world = makeWorld(64, 48);
+  EXPECT_EQ(0, world->frameRateLabel().disabledCount());
+  world->initializeWorld();
+  EXPECT_EQ(1, world->frameRateLabel().disabledCount());
+  for (int i = 0; i < cFrameRateSprite::framesPerMeasurement; ++i) {
+    clock.advance(40000);
+    world->update(0.04F);
+  }
+  EXPECT_EQ("frame rate (wait...)", world->frameRateLabel().text());
+}
+
 TEST_F(World, DrawsTheAirplanesOverTheStars) {
   xplRandom::seed(3);
   const auto world = makeWorld(64, 48);
