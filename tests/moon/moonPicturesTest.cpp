@@ -97,7 +97,7 @@ TEST_F(MoonPictures, LeaveTheSkyAroundTheDiscAlone) {
   window.fillRect({0, 0, 340, 330}, sky);
   cMoonSprite moon;
   ASSERT_TRUE(moon.loadMoonImage(300));
-  moon.illuminate();
+  shadeMoon(*moon.image(), moon.width, moon.height, 90);
   moon.setRenderWindow(&window);
   moon.x = 20.0F;
   moon.y = 10.0F;
