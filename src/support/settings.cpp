@@ -109,13 +109,11 @@ xplSettings::~xplSettings() {
 }
 
 bool xplSettings::load() {
-  m_fileIsUnread = false;
   if (!xplFileSystemMini::fileExists(m_filename)) {
     return true;
   }
   std::optional<std::string> content = readWhole(m_filename);
   if (!content) {
-    m_fileIsUnread = true;
     logError().add("#8551: Could not open file:" + m_filename);
     return false;
   }
@@ -124,15 +122,34 @@ bool xplSettings::load() {
   return true;
 }
 
-bool xplSettings::save() {
-  std::string reason = "the file is there but could not be read, and is left as it is";
-  const bool wouldDestroy = m_fileIsUnread && xplFileSystemMini::fileExists(m_filename);
-  if (!wouldDestroy && xplFileSystemMini::replaceFile(
-                           m_filename, formatSettings(m_values, xplFileSystemMini::lineEnd()), reason)) {
-    m_fileIsUnread = false;
+bool xplSettings::mergeWithFile(std::map<std::string, std::string>& merged) {
+  if (!xplFileSystemMini::fileExists(m_filename)) {
+    merged = m_values;
     return true;
   }
-  logError().add("Error saving file " + m_filename + " Error message:" + reason);
+  std::optional<std::string> content = readWhole(m_filename);
+  if (!content) {
+    return false;
+  }
+  parseSettings(std::move(*content), merged);
+  for (const std::string& key : m_unsaved) {
+    merged[key] = m_values[key];
+  }
+  return true;
+}
+
+bool xplSettings::save() {
+  m_saveError = "the file is there but could not be read, and is left as it is";
+  std::map<std::string, std::string> merged;
+  if (mergeWithFile(merged) &&
+      xplFileSystemMini::replaceFile(m_filename, formatSettings(merged, xplFileSystemMini::lineEnd()),
+                                     m_saveError)) {
+    m_values = std::move(merged);
+    m_unsaved.clear();
+    m_saveError.clear();
+    return true;
+  }
+  logError().add("Error saving file " + m_filename + " Error message:" + m_saveError);
   return false;
 }
 
@@ -144,6 +161,7 @@ void xplSettings::saveOrReport() {
 
 void xplSettings::set(const std::string& key, const std::string& value) {
   m_values[key] = value;
+  m_unsaved.insert(key);
   if (saveOnEveryChange) {
     saveOrReport();
   }
@@ -174,6 +192,24 @@ xplSettings::Batch::~Batch() {
   if (m_savedBefore) {
     m_store.saveOrReport();
   }
+}
+
+bool xplSettings::changeAllOrNothing(const std::function<void()>& changes) {
+  if (!saveOnEveryChange) {
+    changes();
+    return true;
+  }
+  const auto valuesBefore = m_values;
+  const auto unsavedBefore = m_unsaved;
+  saveOnEveryChange = false;
+  changes();
+  saveOnEveryChange = true;
+  const bool saved = save();
+  if (!saved) {
+    m_values = valuesBefore;
+    m_unsaved = unsavedBefore;
+  }
+  return saved;
 }
 
 std::optional<std::string> xplSettings::get(const std::string& key) const {

@@ -2,8 +2,10 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <map>
 #include <optional>
+#include <set>
 #include <string>
 
 class xplSettings {
@@ -35,8 +37,14 @@ class xplSettings {
   int getInt(const std::string& key, int defaultValue) const;
   std::int64_t getInt64(const std::string& key, std::int64_t defaultValue) const;
 
+  // Makes the changes (calls of set) and saves once. Where that fails, all values are as they were before,
+  // and false is returned. Inside a Batch it leaves the saving to that, and returns true.
+  bool changeAllOrNothing(const std::function<void()>& changes);
+
   // The file's full path.
   const std::string& filename() const { return m_filename; }
+  // Why the last save failed, in the system's words; empty where it worked or none was tried.
+  const std::string& saveError() const { return m_saveError; }
 
   // When set, the file always holds the last values; when not, the destructor saves.
   bool saveOnEveryChange = true;
@@ -57,13 +65,17 @@ class xplSettings {
 
  private:
   bool load();
+  // Writes the file as it is now with our own changes over it: what another program has written to it in the
+  // meantime (the settings sheet while a saver runs, a second sheet) is kept, and taken over. A file that
+  // cannot be read is not written, for that would destroy what it holds.
   bool save();
+  bool mergeWithFile(std::map<std::string, std::string>& merged);
   void saveOrReport();
 
   std::map<std::string, std::string> m_values;
+  std::set<std::string> m_unsaved;  // keys that were set since the last save that worked
   std::string m_filename;
-  // Set when there was a file that could not be read: saving would destroy what it holds.
-  bool m_fileIsUnread = false;
+  std::string m_saveError;
 };
 
 // The two stores of the process, opened by their first user.

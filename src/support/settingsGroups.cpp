@@ -64,6 +64,24 @@ void cMessageSettings::save() {
   }
 }
 
+void cMessageSettings::insert(std::size_t index, const sMessage& entry) {
+  if (index <= m_entries.size()) {
+    m_entries.insert(m_entries.begin() + static_cast<std::ptrdiff_t>(index), entry);
+  }
+}
+
+void cMessageSettings::replace(std::size_t index, const sMessage& entry) {
+  if (index < m_entries.size()) {
+    m_entries[index] = entry;
+  }
+}
+
+void cMessageSettings::remove(std::size_t index) {
+  if (index < m_entries.size()) {
+    m_entries.erase(m_entries.begin() + static_cast<std::ptrdiff_t>(index));
+  }
+}
+
 const sMessage* cMessageSettings::get(std::size_t index) const {
   return index < m_entries.size() ? &m_entries[index] : nullptr;
 }

@@ -33,6 +33,11 @@ class cMessageSettings {
   void load();
   void save();
   void add(const sMessage& entry) { m_entries.push_back(entry); }
+  // Put an entry before the one at an index in [0, count()], replace the one at an index in [0, count()),
+  // take it away. An index out of range changes nothing. None of them moves currentIndex.
+  void insert(std::size_t index, const sMessage& entry);
+  void replace(std::size_t index, const sMessage& entry);
+  void remove(std::size_t index);
   std::size_t count() const { return m_entries.size(); }
   // The entry at an index; null when it is out of range. Valid until the list changes.
   const sMessage* get(std::size_t index) const;

@@ -17,7 +17,7 @@ common=$(echo "$code" | grep -vE '/(windows|linux)/')
 check_none "A platform condition outside a seam header" \
   "$(echo "$common" | grep -v '/platform\.h$' | xargs grep -nE '#.*(_WIN32|__linux__|__unix__|__MINGW32__|WIN32)')"
 check_none "A platform header outside the windows and linux folders" \
-  "$(echo "$common" | xargs grep -nE '#include <(windows|windowsx|commctrl|shlobj|unistd|fcntl|dlfcn|poll|pwd|xcb/|X11/|SDL|sys/|fontconfig/|ft2build)')"
+  "$(echo "$common" | xargs grep -nE '#include <(windows|windowsx|commctrl|shlobj|unistd|fcntl|dlfcn|poll|pwd|xcb/|X11/|SDL|sys/|fontconfig/|ft2build|Q[A-Z])')"
 
 # A folder may include itself and the floors below it.
 declare -A below=(
@@ -37,6 +37,11 @@ for floor in "${!below[@]}"; do
   check_none "src/$floor includes from a floor above it" \
     "$(git ls-files "src/$floor/*.h" "src/$floor/*.cpp" | xargs -r grep -nE '^#include "[a-z]+/' | grep -vE "#include \"($allowed)/")"
 done
+
+# The settings sheet is a program of its own on Linux: of the host it knows its own folder and the version alone.
+check_none "src/host/sheet includes what its program does not carry" \
+  "$(git ls-files 'src/host/sheet/*.h' 'src/host/sheet/*.cpp' | xargs grep -nE '^#include "[a-z]+/' |
+    grep -vE '#include "(support/|services/|host/sheet/|host/programVersion\.h)')"
 
 for file in $code $(git ls-files 'tests/*.h' 'tests/*.cpp' 'bench/*.cpp' 'tools/*.cpp' 'tools/*.h'); do
   head -n 1 "$file" | grep -qE '^// .{10,}' || complain "No sentence that says what the file is for" "$file"

@@ -145,3 +145,22 @@ TEST_F(MessageSettings, SaveThatFailsIsReportedOnce) {
   EXPECT_EQ(countEntries("Error #1352c: saving xplSettings to file:" + xplUserSettings().filename(), "ERROR"),
             1);
 }
+
+TEST_F(MessageSettings, EntriesAreInsertedReplacedAndRemoved) {
+  cMessageSettings messages;
+  messages.insert(0, {"b", "2"});
+  messages.insert(0, {"a", "1"});
+  messages.insert(2, {"c", "3"});
+  messages.replace(1, {"B", "II"});
+  messages.remove(0);
+  EXPECT_EQ(entriesOf(messages), (std::vector<std::pair<std::string, std::string>>{{"B", "II"}, {"c", "3"}}));
+}
+
+TEST_F(MessageSettings, AnIndexOutOfRangeChangesNothing) {
+  cMessageSettings messages;
+  messages.add({"a", "1"});
+  messages.insert(2, {"x", ""});
+  messages.replace(1, {"x", ""});
+  messages.remove(1);
+  EXPECT_EQ(entriesOf(messages), (std::vector<std::pair<std::string, std::string>>{{"a", "1"}}));
+}

@@ -1,6 +1,7 @@
 // Tests the settings store: where its file lies, when it is read and saved, typed values, and what goes
 // wrong.
 #include <cstdio>
+#include <filesystem>
 #include <limits>
 
 #include "harness/privateFolders.h"
@@ -353,6 +354,77 @@ TEST_F(Settings, FileThatWasRemovedMeanwhileIsMadeAgain) {
   ASSERT_EQ(std::remove(file().c_str()), 0);
   store.set("b", "2");
   EXPECT_EQ(saved(), "a=1\nb=2\n");
+}
+
+TEST_F(Settings, WhatAnotherProgramWroteMeanwhileIsKeptAndTakenOver) {
+  xplSettings ours(xplSettings::scopeUser);
+  ours.set("mine", "old");
+  xplSettings theirs(xplSettings::scopeUser);
+  theirs.set("theirs", "new");
+  theirs.set("mine", "theirs");
+  ours.set("third", "3");
+  EXPECT_EQ(ours.get("theirs"), "new");
+  EXPECT_EQ(ours.get("mine"), "theirs");
+  const xplSettings file(xplSettings::scopeUser);
+  EXPECT_EQ(file.get("theirs"), "new");
+  EXPECT_EQ(file.get("mine"), "theirs");
+  EXPECT_EQ(file.get("third"), "3");
+}
+
+TEST_F(Settings, WhatCouldNotBeSavedComesWithTheNextSave) {
+  xplSettings store(xplSettings::scopeUser);
+  std::filesystem::create_directories(store.filename() + "/in the way");
+  store.set("a", "1");
+  EXPECT_NE(store.saveError(), "");
+  std::filesystem::remove_all(store.filename());
+  writeFile(store.filename(), "a=0\nb=2\n");
+  store.set("c", "3");
+  EXPECT_EQ(store.saveError(), "");
+  const xplSettings file(xplSettings::scopeUser);
+  EXPECT_EQ(file.get("a"), "1");
+  EXPECT_EQ(file.get("b"), "2");
+  EXPECT_EQ(file.get("c"), "3");
+}
+
+TEST_F(Settings, AllChangesAreSavedTogether) {
+  xplSettings store(xplSettings::scopeUser);
+  EXPECT_TRUE(store.changeAllOrNothing([&] {
+    store.set("a", "1");
+    const xplSettings::Batch batch(store);
+    store.set("b", "2");
+    EXPECT_EQ(readFile(store.filename()), "");
+  }));
+  const xplSettings file(xplSettings::scopeUser);
+  EXPECT_EQ(file.get("a"), "1");
+  EXPECT_EQ(file.get("b"), "2");
+}
+
+TEST_F(Settings, NoneOfTheChangesStaysWhereTheyCannotBeSaved) {
+  xplSettings store(xplSettings::scopeUser);
+  store.set("a", "1");
+  std::filesystem::remove(store.filename());
+  std::filesystem::create_directories(store.filename() + "/in the way");
+  EXPECT_FALSE(store.changeAllOrNothing([&] {
+    store.set("a", "2");
+    store.set("b", "2");
+  }));
+  EXPECT_EQ(store.get("a"), "1");
+  EXPECT_FALSE(store.get("b").has_value());
+  EXPECT_NE(store.saveError(), "");
+  std::filesystem::remove_all(store.filename());
+  store.set("c", "3");
+  EXPECT_EQ(xplSettings(xplSettings::scopeUser).get("a"), "1");
+  EXPECT_FALSE(xplSettings(xplSettings::scopeUser).get("b").has_value());
+}
+
+TEST_F(Settings, InsideABatchTheChangesWaitForItsEnd) {
+  xplSettings store(xplSettings::scopeUser);
+  {
+    const xplSettings::Batch batch(store);
+    EXPECT_TRUE(store.changeAllOrNothing([&] { store.set("a", "1"); }));
+    EXPECT_EQ(readFile(store.filename()), "");
+  }
+  EXPECT_EQ(xplSettings(xplSettings::scopeUser).get("a"), "1");
 }
 
 TEST_F(Settings, StoresOfTheProcessAreOpenedOnceAndClosedTogether) {

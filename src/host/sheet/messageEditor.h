@@ -1,0 +1,39 @@
+// Edits the list of messages, one entry at a time.
+#pragma once
+
+#include <string>
+
+#include "support/settingsGroups.h"
+
+class MessageEditor {
+ public:
+  // What the page shows. Line breaks in texts are "\r\n".
+  struct View {
+    std::string message;
+    std::string bottomLine;
+    std::string position;  // the caption of the frame
+    bool hasEntry;         // both edits and "Delete" are enabled
+    bool hasPrevious;
+    bool hasNext;
+  };
+
+  // Borrows the store, which must outlive the editor.
+  explicit MessageEditor(xplSettings& store) : m_messages(store) {}
+
+  // Reads the list (and, the first time ever, fills and saves it); the first entry is the current one.
+  void load() { m_messages.load(); }
+  View view() const;
+  // Takes what stands in the two edits into the current entry, tidied; nothing where the list is empty.
+  void storeEdits(const std::string& message, const std::string& bottomLine);
+  // What one of the page's four buttons does (its id), with what stands in the two edits. "New" puts an empty
+  // entry after the current one; "Delete" moves to the entry after the deleted one, or to the last.
+  void press(int button, const std::string& message, const std::string& bottomLine);
+  // Writes the list into the store.
+  void save() { m_messages.save(); }
+
+ private:
+  void addNew();
+  void deleteCurrent();
+
+  cMessageSettings m_messages;
+};
