@@ -3,7 +3,6 @@
 
 #include <utility>
 
-#include "host/programVersion.h"
 #include "support/settings.h"
 
 namespace {
@@ -38,9 +37,7 @@ void noctisScreensaver::initWithWindowHandle(xplWindowHandle windowHandle, std::
 
 void noctisScreensaver::showConfigureSheet(xplWindowHandle parentWindow) {
   logInfo().add("noctisScreensaver::showConfigureSheet()");
-  xplTellUser(parentWindow, programName,
-              "This version has no settings sheet yet. The settings are in this file:\n" +
-                  xplUserSettings().filename());
+  xplShowSettings(parentWindow);
 }
 
 void noctisScreensaver::setContainerFolder(const std::string& path) {

@@ -23,11 +23,11 @@
 // input ends nothing.
 //
 // May fail: xplStartTimer (0, the sky then stands still), xplEnumerateMonitors (false), xplFindNotepadWindow
-// (0). Nothing here throws, and all of it must bear a window that has gone in the meantime.
+// (0). Nothing that a saver's window calls throws, and all of it must bear a window that has gone in the
+// meantime.
 #pragma once
 
 #include <cstdint>
-#include <string>
 #include <vector>
 
 #include "graphics/platform.h"
@@ -79,6 +79,6 @@ std::uintptr_t xplFindNotepadWindow();
 // `window` is one on the screen in question, and may be null.
 bool xplEnumerateMonitors(xplWindowHandle window, std::vector<xplRect<int>>& monitors);
 
-// Tells the user something that needs an answer no better than "OK", and returns when it is read: a message
-// box over `parent` (may be null), or a line on standard error.
-void xplTellUser(xplWindowHandle parent, const std::string& title, const std::string& text);
+// Lets the user edit the settings, in a sheet over `parent` (may be null), and returns when it is closed.
+// What fails is told to the user; on Linux by throwing HostFailure, which the program ends with.
+void xplShowSettings(xplWindowHandle parent);

@@ -1,6 +1,5 @@
 // Supplies the host's seam on Linux.
-#include <iostream>
-
+#include "host/linux/configureProgram.h"
 #include "host/linux/messagePump.h"
 #include "host/linux/windowTimers.h"
 #include "host/platform.h"
@@ -48,6 +47,6 @@ bool xplEnumerateMonitors(xplWindowHandle window, std::vector<xplRect<int>>& mon
   return !list.empty();
 }
 
-void xplTellUser(xplWindowHandle, const std::string& title, const std::string& text) {
-  std::cerr << title << ": " << text << std::endl;
+void xplShowSettings(xplWindowHandle) {
+  runConfigureProgram("lunaria-configure");
 }

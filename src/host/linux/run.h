@@ -9,5 +9,6 @@
 // there. Throws HostFailure where the saver cannot start, or where its window or its display was taken away.
 void runSaver(X11Connection& connection, StopSignals& signals, const HostRequest& request);
 
-// Lets the user edit the settings.
+// Lets the user edit the settings, and returns when the sheet is closed. Throws HostFailure where there is
+// none.
 void runConfiguration();

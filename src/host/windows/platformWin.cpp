@@ -1,5 +1,9 @@
 // Supplies the host's seam on Windows.
+#include <string>
+
 #include "host/platform.h"
+#include "host/programVersion.h"
+#include "host/sheet/windows/propertySheet.h"
 
 namespace {
 
@@ -52,6 +56,11 @@ bool xplEnumerateMonitors(xplWindowHandle, std::vector<xplRect<int>>& monitors) 
   return EnumDisplayMonitors(nullptr, nullptr, appendMonitor, reinterpret_cast<LPARAM>(&monitors)) != FALSE;
 }
 
-void xplTellUser(xplWindowHandle parent, const std::string& title, const std::string& text) {
-  MessageBoxA(parent, text.c_str(), title.c_str(), MB_OK | MB_ICONINFORMATION);
+void xplShowSettings(xplWindowHandle parent) {
+  SettingsSheet sheet;
+  if (!showPropertySheet(parent, sheet)) {
+    const std::string text = "The settings sheet could not be shown. The settings are in this file:\n" +
+                             xplUserSettings().filename();
+    MessageBoxA(parent, text.c_str(), programName, MB_OK | MB_ICONWARNING);
+  }
 }

@@ -39,4 +39,6 @@ start_window 100x100+0+0 input-only
 refused "a window that shows nothing" 1 "takes input only" --window-id "$window"
 end_window
 
-"$lunaria" /c >"$work/out" 2>"$work/err"; same "configuration: exit code" 0 $?
+mkdir "$work/alone" && cp "$lunaria" "$work/alone/lunaria"
+PATH=/usr/bin:/bin lunaria=$work/alone/lunaria refused "settings without their program" 1 \
+  "cannot start lunaria-configure" /c

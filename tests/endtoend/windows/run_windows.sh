@@ -106,7 +106,7 @@ configuration() {  # NAME ARGUMENT...
   local name=$1
   shift
   start_saver "$@"
-  check "$name: something is shown" wait_until 60 window_exists 'Lunaria screensaver'
+  check "$name: the sheet is shown" wait_until 60 window_exists 'Lunara 5.4.1 '
   screenshot "$name"
   xdotool key Return
   check "$name: ends" wait_for_end 10

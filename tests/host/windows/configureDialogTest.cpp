@@ -5,10 +5,9 @@
 #include "host/windowProcedureFixture.h"
 #include "host/windows/configureDialog.h"
 #include "host/windows/messageQueue.h"
-#include "support/settings.h"
+#include "support/settingsGroups.h"
 
 using testing::ElementsAre;
-using testing::HasSubstr;
 
 namespace {
 
@@ -105,29 +104,34 @@ TEST_F(ConfigureDialog, TheRealDialogEndsWithFalseWhenCancelled) {
   EXPECT_EQ(countEntries("xplLog closing"), 1);
 }
 
-std::string shownText;
-
-// Reads the message box and presses its button.
-void CALLBACK answerMessageBox(HWND, UINT, UINT_PTR timer, DWORD) {
-  HWND box = FindWindowA("#32770", "Lunaria screensaver");
-  if (!box) {
-    return;
+// Closes the sheet as with its Cancel button, once it is there.
+void CALLBACK cancelSheet(HWND, UINT, UINT_PTR timer, DWORD) {
+  HWND sheet = FindWindowA("#32770", "Lunara 5.4.1 ");
+  if (sheet) {
+    KillTimer(nullptr, timer);
+    PostMessageA(sheet, WM_COMMAND, IDCANCEL, 0);
   }
-  char text[1024] = "";
-  GetDlgItemTextA(box, 0xFFFF, text, sizeof(text));
-  shownText = text;
-  KillTimer(nullptr, timer);
-  PostMessageA(box, WM_COMMAND, IDOK, 0);
 }
 
-TEST_F(ConfigureDialog, TheSaverSaysWhereTheSettingsAre) {
-  shownText.clear();
+TEST_F(ConfigureDialog, TheSaverRunsTheSheetAndRemembersItsPage) {
   noctisScreensaver saver;
-  SetTimer(nullptr, 0, 20, answerMessageBox);
+  cAppSettings().activeDialogTab.write(2);
+  SetTimer(nullptr, 0, 20, cancelSheet);
   saver.showConfigureSheet(nullptr);
-  EXPECT_THAT(shownText, HasSubstr("no settings sheet"));
-  EXPECT_THAT(shownText, HasSubstr(xplUserSettings().filename()));
+  EXPECT_EQ(xplSettings(xplSettings::scopeUser).get("activeDialogTab"), "2");
   EXPECT_EQ(countEntries("noctisScreensaver::showConfigureSheet()", "Info"), 1);
+}
+
+// The framework's dialog, the saver and the sheet together.
+TEST_F(ConfigureDialog, TheSheetOverTheRealDialogClosesBoth) {
+  windowProcedure::makeScreenSaver = []() -> std::unique_ptr<xplScreenSaverInterface> {
+    return std::make_unique<noctisScreensaver>();
+  };
+  SetTimer(nullptr, 0, 20, cancelSheet);
+  EXPECT_EQ(runDialog(procedure), TRUE);
+  EXPECT_EQ(FindWindowA("#32770", "Lunara 5.4.1 "), nullptr);
+  EXPECT_EQ(countEntries("noctisScreensaver::showConfigureSheet()"), 1);
+  EXPECT_EQ(countEntries("xplLog closing"), 1);
 }
 
 }  // namespace

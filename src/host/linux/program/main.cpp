@@ -1,6 +1,7 @@
 // The program's entry on Linux: reads the command line and starts what it asks for.
 #include <cstdlib>
 #include <exception>
+#include <functional>
 #include <iostream>
 #include <optional>
 #include <string>
@@ -27,13 +28,10 @@ int refuse(const CommandLineError& error) {
   return EXIT_FAILURE;
 }
 
-// The log lives from here on: everything that follows finds it.
-int startSaver(const HostRequest& request) {
-  X11Connection connection;
-  StopSignals signals;
-  const xplLog log("Lunaria", true, true);
+// The exit code of a run.
+int orTellWhyNot(const std::function<void()>& run) {
   try {
-    runSaver(connection, signals, request);
+    run();
     return EXIT_SUCCESS;
   } catch (const HostFailure& failure) {
     // A display or a window that goes is nothing wrong with the saver: no error, which would copy the log.
@@ -43,10 +41,17 @@ int startSaver(const HostRequest& request) {
   }
 }
 
+// The log lives from here on: everything that follows finds it.
+int startSaver(const HostRequest& request) {
+  X11Connection connection;
+  StopSignals signals;
+  const xplLog log("Lunaria", true, true);
+  return orTellWhyNot([&] { runSaver(connection, signals, request); });
+}
+
 int startConfiguration() {
   const xplLog log("Lunaria", true, true);
-  runConfiguration();
-  return EXIT_SUCCESS;
+  return orTellWhyNot(runConfiguration);
 }
 
 int start(const std::string& program, const HostRequest& request) {
