@@ -9,7 +9,7 @@
 // drawing it never holds up a frame, whatever stands in the user's file.
 inline constexpr std::size_t maxQuoteLines = 500;
 inline constexpr std::size_t maxQuoteLineBytes = 4096;
-inline constexpr std::size_t maxQuoteBytes = 16384;  // all lines together
+inline constexpr std::size_t maxQuoteBytes = 8192;  // all lines together
 
 // The parts of a zero-terminated text between its '|', also empty ones; an empty text is one empty line.
 // Never without a line. What goes beyond the limits is left out.

@@ -26,8 +26,8 @@ class cQuotes {
   static xplVectorAsDB<sQuote>& quotesList();
   // A new list: the built-in quotes in their order, then the user's. Tests put it in the place of the list.
   static xplVectorAsDB<sQuote> loadQuotes();
-  // Appends a quote for each line of the user's file that is not empty; a file that cannot be read adds none.
-  // The texts stay for the life of the process.
+  // Appends a quote for each line of the user's file that is not empty, up to the 32768 that chance can
+  // reach; a file that cannot be read adds none. The texts stay for the life of the process.
   static void loadUserQuotes(xplVectorAsDB<sQuote>& list);
   // The file's full path. Its folder and the file are made where missing; "" without a folder for user data.
   static std::string userQuotesFilePath();

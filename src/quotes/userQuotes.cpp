@@ -14,6 +14,11 @@ namespace {
 constexpr const char* folderName = "Lunaria software";
 constexpr const char* fileName = "userQuotes.txt";
 
+// More quotes of the user than this are not taken, since chance would never choose them: the built-in ones
+// before them in the list can only become fewer. Without an end to it a file of 100 MB could hold up the
+// start for minutes, and fill the disk with its log.
+constexpr std::size_t mostUserQuotes = xplVectorAsDB<sQuote>::reachable;
+
 // Keeps a text for the life of the process: quotes hold pointers to it. Never destroyed, and its elements
 // never move.
 const char* kept(std::string text) {
@@ -58,11 +63,18 @@ void cQuotes::loadUserQuotes(xplVectorAsDB<sQuote>& list) {
     return;  // opening what is no file could wait for ever: a pipe has no writer
   }
   std::ifstream file(path, std::ios::binary);
+  std::size_t count = 0;
   for (std::string line; readLine(file, line);) {
-    if (!line.empty()) {
-      const char* text = kept(line);
-      logInfo().addf("Adding user quote:%.8000s", text);  // the log cuts longer entries anyway
-      list.append({quoteCategory::user, text});
+    if (line.empty()) {
+      continue;
     }
+    if (count == mostUserQuotes) {
+      logWarning().addf("Only the first %i user quotes are taken", static_cast<int>(mostUserQuotes));
+      break;
+    }
+    ++count;
+    const char* text = kept(line);
+    logInfo().addf("Adding user quote:%.8000s", text);  // the log cuts longer entries anyway
+    list.append({quoteCategory::user, text});
   }
 }

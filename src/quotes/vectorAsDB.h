@@ -22,6 +22,9 @@ class xplVectorAsDB {
  public:
   void append(T element) { m_elements.push_back(std::move(element)); }
 
+  // A draw chooses among this many elements, the first ones, however many there are.
+  static constexpr std::size_t reachable = xplRandom::resultCount;
+
   // An element by one draw, null (and a failed assertion, without a draw) where there is none. Valid until
   // the next change.
   //

@@ -49,6 +49,17 @@ TEST_F(HostileQuotes, OfAMillionShortLinesAreShownInQuickFrames) {
   expectQuickFrames(content + "\n");
 }
 
+TEST_F(HostileQuotes, OfThousandsOfDifferentCharactersAreShownInQuickFrames) {
+  std::string content;
+  for (int i = 0; i < 0x5000; ++i) {  // in UTF-8 the characters from U+4000 on; elsewhere just bytes
+    content += static_cast<char>(0xE4 + (i >> 12));
+    content += static_cast<char>(0x80 | ((i >> 6) & 0x3F));
+    content += static_cast<char>(0x80 | (i & 0x3F));
+    content += i % 60 == 0 ? "|" : "";
+  }
+  expectQuickFrames(content + "\n");
+}
+
 TEST_F(HostileQuotes, OfBytesThatAreNoTextAreShownInQuickFrames) {
   std::string content;
   for (int i = 0; i < 1'000'000; ++i) {

@@ -96,6 +96,20 @@ TEST_F(UserQuotes, HaveNoLimitOfLength) {
   EXPECT_EQ((Texts{longLine, "next"}), userQuotes(longLine + "\nnext\n"));
 }
 
+TEST_F(UserQuotes, AreTakenAsLongAsChanceCanReachThem) {
+  logInfo().setPath("");  // an entry for each would take its time
+  std::string content;
+  for (int i = 0; i < 32768; ++i) {
+    content += stringFormat("quote %i\n\n", i);
+  }
+  EXPECT_EQ(32768U, userQuotes(content).size());
+  EXPECT_EQ(0, countEntries("Only the first 32768 user quotes are taken", "Warning"));
+  const Texts texts = userQuotes(content + "one too many\nand another\n");
+  EXPECT_EQ(32768U, texts.size());
+  EXPECT_EQ("quote 32767", texts.back());
+  EXPECT_EQ(1, countEntries("Only the first 32768 user quotes are taken", "Warning"));
+}
+
 TEST_F(UserQuotes, KeepTheirTextsWhateverIsReadLater) {
   xplVectorAsDB<sQuote> list;
   writeFile(userFile(), "first\n");

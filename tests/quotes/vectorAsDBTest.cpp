@@ -47,6 +47,7 @@ TEST_F(VectorAsDB, KeptElementsBeyondFifteenBitsAreNeverChosen) {
     largest = std::max(largest, *longList.getRandom());
   }
   EXPECT_LT(largest, 32768);
+  EXPECT_EQ(32768U, xplVectorAsDB<int>::reachable);
   EXPECT_GT(largest, 32000);
 }
 

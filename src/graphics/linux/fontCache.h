@@ -25,7 +25,7 @@ class FontCache {
  private:
   static constexpr std::size_t maxOpenFaces = 8;
   static constexpr std::size_t maxRequests = 64;
-  static constexpr std::size_t maxCharacters = 1024;
+  static constexpr std::size_t maxCharacters = 8192;
   using RequestKey = std::pair<std::string, bool>;
   struct OpenFace {
     int number;

@@ -10,10 +10,10 @@ struct PatternDeleter {
 };
 using Pattern = std::unique_ptr<FcPattern, PatternDeleter>;
 
-struct CharSetDeleter {
-  void operator()(FcCharSet* characters) const { FcCharSetDestroy(characters); }
+struct FontSetDeleter {
+  void operator()(FcFontSet* fonts) const { FcFontSetDestroy(fonts); }
 };
-using CharSet = std::unique_ptr<FcCharSet, CharSetDeleter>;
+using FontSet = std::unique_ptr<FcFontSet, FontSetDeleter>;
 
 struct ConfigDeleter {
   void operator()(FcConfig* config) const { FcConfigDestroy(config); }
@@ -36,6 +36,12 @@ std::string textOf(const FcPattern& pattern, const char* property) {
 bool hasOutlines(const FcPattern& pattern) {
   FcBool outline = FcFalse;
   return FcPatternGetBool(&pattern, FC_OUTLINE, 0, &outline) == FcResultMatch && outline == FcTrue;
+}
+
+bool hasCharacter(const FcPattern& pattern, char32_t character) {
+  FcCharSet* covered = nullptr;
+  return FcPatternGetCharSet(&pattern, FC_CHARSET, 0, &covered) == FcResultMatch &&
+         FcCharSetHasChar(covered, character) == FcTrue;
 }
 
 std::optional<FontFile> fileOf(const FcPattern* pattern) {
@@ -79,8 +85,26 @@ class FontCatalogue::Configuration {
     return Pattern(FcFontMatch(m_config.get(), pattern, &result));
   }
 
+  // All fonts, the nearest to the request first; null where there is none. To match anew for each character
+  // would take hundreds of times as long, and a text may lack thousands. They stay until another request.
+  const FcFontSet* allFontsFor(const FontRequest& request) {
+    if (m_config && m_sortedFor != request) {
+      m_sortedFor = request;
+      m_sorted.reset();
+      if (const Pattern pattern = patternOf(request, request.thin ? FC_WEIGHT_THIN : FC_WEIGHT_REGULAR)) {
+        FcConfigSubstitute(m_config.get(), pattern.get(), FcMatchPattern);
+        FcDefaultSubstitute(pattern.get());
+        FcResult result = FcResultNoMatch;
+        m_sorted.reset(FcFontSort(m_config.get(), pattern.get(), FcFalse, nullptr, &result));
+      }
+    }
+    return m_sorted.get();
+  }
+
  private:
   Config m_config{FcInitLoadConfigAndFonts()};
+  std::optional<FontRequest> m_sortedFor;
+  FontSet m_sorted;
 };
 
 FontCatalogue::FontCatalogue() : m_configuration(std::make_unique<Configuration>()) {}
@@ -100,17 +124,13 @@ std::optional<FontFile> FontCatalogue::find(const FontRequest& request) const {
 
 std::optional<FontFile> FontCatalogue::findWithCharacter(const FontRequest& request,
                                                          char32_t character) const {
-  const Pattern pattern = patternOf(request, request.thin ? FC_WEIGHT_THIN : FC_WEIGHT_REGULAR);
-  const CharSet wanted(FcCharSetCreate());
-  if (!pattern || !wanted || FcCharSetAddChar(wanted.get(), character) == FcFalse) {
-    return std::nullopt;
+  const FcFontSet* fonts = m_configuration->allFontsFor(request);
+  for (int i = 0; fonts != nullptr && i < fonts->nfont; ++i) {
+    if (hasCharacter(*fonts->fonts[i], character)) {
+      if (const std::optional<FontFile> file = fileOf(fonts->fonts[i])) {
+        return file;
+      }
+    }
   }
-  FcPatternAddCharSet(pattern.get(), FC_CHARSET, wanted.get());
-  const Pattern found = m_configuration->match(pattern.get());
-  FcCharSet* covered = nullptr;
-  if (!found || FcPatternGetCharSet(found.get(), FC_CHARSET, 0, &covered) != FcResultMatch ||
-      FcCharSetHasChar(covered, character) == FcFalse) {
-    return std::nullopt;
-  }
-  return fileOf(found.get());
+  return std::nullopt;
 }

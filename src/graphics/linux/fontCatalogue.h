@@ -15,9 +15,12 @@ struct FontFile {
 struct FontRequest {
   std::string faceName;
   bool thin = false;
+
+  friend bool operator==(const FontRequest&, const FontRequest&) = default;
 };
 
-// Reads the system's font configuration when it is made. Answers are not kept: ask once for each face.
+// Reads the system's font configuration when it is made. Answers are not kept: ask once for each face, and
+// once for each character.
 class FontCatalogue {
  public:
   FontCatalogue();
@@ -28,7 +31,8 @@ class FontCatalogue {
   // The file nearest to the request; nothing only where the system has no font with outlines. A thin face is
   // taken only from the family that the same name gives without it.
   std::optional<FontFile> find(const FontRequest& request) const;
-  // A file that has the character, as near to the request as there is one; nothing where no font has it.
+  // A file that has the character, as near to the request as there is one; nothing where no font with
+  // outlines has it. Quick while the requests are the same.
   std::optional<FontFile> findWithCharacter(const FontRequest& request, char32_t character) const;
 
  private:

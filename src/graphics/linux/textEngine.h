@@ -33,7 +33,7 @@ class TextEngine {
     int spacing = 0;  // extra pixels after each character
     FontMetrics metrics;
   };
-  static constexpr std::size_t maxGlyphBytes = std::size_t{1} << 20;
+  static constexpr std::size_t maxGlyphBytes = std::size_t{2} << 20;
   static constexpr std::size_t maxMetrics = 256;
 
   // False (and, once, an error entry) where there is no font.
