@@ -138,4 +138,16 @@ TEST_F(BuiltInQuotesOnAWindow, FitIntoTheSmallestFullScreen) {
   }
 }
 
+// Where a quote stands, and with it every draw that follows, depends on its size. The faces are those that
+// the tests map on Windows; another face with the same name would differ.
+TEST_F(BuiltInQuotesOnAWindow, AreOfTheSameSizeOnEveryPlatform) {
+  cSpriteParagraphDimming paragraph("p");
+  paragraph.setStyle(quotesStyle());
+  paragraph.setRenderWindow(&window);
+  paragraph.setParagraph(
+      {"The quick onyx goblin, AVAST! jumps over", "\"a lazy dwarf\" (to WAIT; 1234567890)"});
+  EXPECT_FLOAT_EQ(383.0F, paragraph.paragraphRect().width);
+  EXPECT_FLOAT_EQ(48.0F, paragraph.paragraphRect().height);
+}
+
 }  // namespace

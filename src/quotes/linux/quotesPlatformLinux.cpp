@@ -3,8 +3,10 @@
 
 #include "quotes/platform.h"
 
+// The name for which every system has this face or one of the same widths: where a quote stands depends on
+// how wide it is, and the generic "serif" would be another face on each machine.
 const char* quotesPlatform::faceName() {
-  return "serif";
+  return "Times New Roman";
 }
 
 std::size_t quotesPlatform::characterCount(std::string_view text) {
