@@ -8,6 +8,7 @@
 #include <stdexcept>
 
 #include "sounds/adpcmEncoder.h"
+#include "sounds/exactMath.h"
 #include "sounds/filter.h"
 
 namespace {
@@ -62,14 +63,19 @@ std::vector<std::int16_t> to16Bits(const Track& track) {
 void writePcm8(const Track& track, const std::string& filename) {
   // Eight bits are few. A little noise keeps the steps from sounding like a buzz, and what one sample is off
   // is given to the next, which takes the noise out of the highs, where it would be heard, into the lows.
+  // Where the sound ends for good, the noise leaves with it, lest one hear it stop.
   constexpr double handedOn = 0.8;
+  const double lingering = decayFactor(1.0, track.rate);
   Noise dither(1);
+  double loudest = 0.0;  // of late, in steps
   double error = 0.0;
   std::string data;
   for (const double sample : track.samples) {
+    loudest = std::max(std::abs(sample) * 127.0, lingering * loudest);
+    const double strength = track.ending == Ending::Loops ? 1.0 : std::min(1.0, loudest);
+    const double noise = 0.5 * strength * dither.next();
     const double wanted = sample * 127.0 + handedOn * error;
-    const double level =
-        sample == 0.0 ? 0.0 : std::clamp(std::floor(wanted + 0.5 + 0.5 * dither.next()), -127.0, 127.0);
+    const double level = sample == 0.0 ? 0.0 : std::clamp(std::floor(wanted + 0.5 + noise), -127.0, 127.0);
     error = std::clamp(level - wanted, -1.0, 1.0);
     data += static_cast<char>(static_cast<std::uint8_t>(level + 128.0));
   }
