@@ -4,6 +4,7 @@
 #include <cmath>
 #include <numeric>
 #include <ostream>
+#include <span>
 #include <string>
 
 #include <gmock/gmock.h>
@@ -48,6 +49,12 @@ double peakOf(const std::vector<double>& samples) {
 
 double meanOf(const std::vector<double>& samples) {
   return std::accumulate(samples.begin(), samples.end(), 0.0) / static_cast<double>(samples.size());
+}
+
+// The root of the mean square.
+double strengthOf(std::span<const double> samples) {
+  const double squares = std::inner_product(samples.begin(), samples.end(), samples.begin(), 0.0);
+  return std::sqrt(squares / static_cast<double>(samples.size()));
 }
 
 // How far a sample lies from the straight line through the two before it: large where a sound is torn.
@@ -99,6 +106,12 @@ TEST_P(Waves, BeginsAndEndsSoftly) {
     EXPECT_EQ(m_samples.front(), 0.0);
     EXPECT_EQ(m_samples.back(), 0.0);
   }
+}
+
+// Heard once, a sound that is cut while it goes on sounds broken; heard in a loop, it takes a breath.
+TEST_P(Waves, ComesToRestAtItsEnd) {
+  const std::size_t end = static_cast<std::size_t>(m_wave.rate / 50);
+  EXPECT_LT(strengthOf(std::span(m_samples).last(end)), 0.15 * strengthOf(m_samples));
 }
 
 TEST_P(Waves, RepeatsWithoutAClick) {

@@ -89,5 +89,11 @@ Track oceanWaves() {
   for (const Band& band : bands) {
     addBand(track, band);
   }
+  // Between two waves the sea nearly rests, so that it neither starts nor stops harshly where it is heard
+  // once.
+  const Curve lull({{0, 0.3}, {0.6, 1.0}, {end - 0.8, 1.0}, {end, 0.3}});
+  for (std::size_t i = 0; i < track.samples.size(); ++i) {
+    track.samples[i] *= lull(static_cast<double>(i) / rate);
+  }
   return track;
 }
