@@ -74,7 +74,7 @@ double seaAt(const Vec3& point, double albedo) {
 // deep, the crust gleams, and the brightest ground keeps its shape.
 double exposed(double ground) {
   constexpr double shoulder = 0.86;
-  const double linear = std::max(0.425 + 1.22 * (ground - 0.46), 0.0);
+  const double linear = std::max(0.445 + 1.31 * (ground - 0.46), 0.0);
   if (linear <= shoulder) {
     return linear;
   }
