@@ -41,15 +41,16 @@ class ShadingPhase {
 
 }  // namespace
 
-cMoonSprite::cMoonSprite() : TorvSpriteImage_ownedImg("moonSprite"), m_moonInfo(xplClock::now()) {}
+cMoonSprite::cMoonSprite() : TorvSpriteImage_ownedImg("moonSprite"), m_moonInfo(xplClock::now()) {
+  // The pictures are black outside the disc and stay exactly so when they are darkened: no square shows on
+  // any sky.
+  image()->setTransparentColor(outsideTheDisc);
+}
 
 bool cMoonSprite::loadMoonImage(int size) {
   if (!image()->initWithResource(resourceOf(size))) {
     return false;
   }
-  // The pictures are black outside the disc and stay exactly so when they are darkened: no square shows on
-  // any sky.
-  image()->setTransparentColor(outsideTheDisc);
   calcSize();
   return true;
 }

@@ -9,7 +9,7 @@
 
 class cMoonSprite : public TorvSpriteImage_ownedImg {
  public:
-  // Asks the clock which phase it is.
+  // Asks the clock which phase it is. Black pixels of the picture will not be drawn.
   cMoonSprite();
 
   // Loads the picture for a setting of 50, 200 or 300 pixels, of 100 for anything else, and takes its size.

@@ -3,16 +3,17 @@
 
 #include <memory>
 
-// Makes local time universal for as long as it lives, where a program can do so.
-class UniversalZone {
+class MachineZone {
  public:
-  UniversalZone();
-  ~UniversalZone();
-  UniversalZone(const UniversalZone&) = delete;
-  UniversalZone& operator=(const UniversalZone&) = delete;
+  MachineZone();
+  ~MachineZone();  // local time is again what it was
+  MachineZone(const MachineZone&) = delete;
+  MachineZone& operator=(const MachineZone&) = delete;
 
-  // Whether local time is universal time now.
-  bool isUniversal() const;
+  // Makes local time that of "UTC", "Asia/Kolkata", "America/St_Johns" or "Pacific/Auckland". False where a
+  // program cannot do so and this machine's zone is another: the test is then for another machine, or for
+  // another run of tests/moon/windows/zones.sh.
+  bool set(const char* name);
 
  private:
   struct Previous;

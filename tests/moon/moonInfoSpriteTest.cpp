@@ -135,6 +135,15 @@ TEST_F(MoonInfoSprite, NeverChangesItsAlertOrNameLater) {
   EXPECT_EQ(0U, labelAfter(label, 500).find("Full moon tonight\n\"Harvest Moon\"\n\nPhase ("));
 }
 
+TEST_F(MoonInfoSprite, GoesOnTypingAndTakingTurnsWhileTheClockJumpsBack) {
+  fillAt(firstQuarter);
+  labelAfter(label, 20);
+  clock.set({firstQuarter - 40 * 24 * 3600, 0});
+  EXPECT_EQ("First Quarter\nPhase (degrees):271\nPast full moon:January 12, 11:34", typed());
+  clock.set({-1, 0});
+  EXPECT_EQ("First Quarter\nPhase (percent):50%\nFull moon on:February 11, 00:33", typed());
+}
+
 TEST_F(MoonInfoSprite, BeforeItIsFilledItsTextIsEmpty) {
   EXPECT_EQ("", labelAfter(label, 3));
 }

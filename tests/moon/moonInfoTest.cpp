@@ -144,6 +144,34 @@ TEST_F(MoonInfo, TheSameDayOfAnotherYearIsNotTonight) {
   EXPECT_TRUE(info.isFullMoonTonight());
 }
 
+// The event is that of the moment asked about; the night is that of the clock at each call.
+TEST_F(MoonInfo, AClockThatJumpsBackAsksForAnotherNight) {
+  clock.set({fullMoonOfMay2016, 0});
+  const cMoonInfo info(fullMoonOfMay2016);
+  EXPECT_TRUE(info.isFullMoonTonight());
+  clock.set({fullMoonOfMay2016 - day, 0});
+  EXPECT_FALSE(info.isFullMoonTonight());
+  EXPECT_TRUE(info.isFullMoonTomorrow());
+  clock.set({fullMoonOfMay2016 - 30 * day, 0});
+  EXPECT_FALSE(info.isFullMoonTonight()) << "the full moon of April, which info is not about";
+  EXPECT_FALSE(info.isFullMoonTomorrow());
+  clock.set({-1, 0});
+  EXPECT_FALSE(info.isFullMoonTonight());
+  EXPECT_EQ(0, info.phase());
+}
+
+// No full moon is known to come, so that the nearest is that of 1970: nobody is told of one any more.
+TEST_F(MoonInfo, KeptSilenceAboutFullMoonsAfterTheTable) {
+  for (int months = 1; months < 120; ++months) {
+    const std::int64_t fullMoon = lastFullMoonOfTheTable + months * synodicMonthSeconds + hour;
+    clock.set({fullMoon, 0});
+    const cMoonInfo info(fullMoon);
+    ASSERT_EQ(0, info.phase());
+    ASSERT_FALSE(info.isFullMoonTonight()) << months;
+    ASSERT_FALSE(info.isFullMoonTomorrow()) << months;
+  }
+}
+
 TEST_F(MoonInfo, IsComputedInsideALoggedBlock) {
   const cMoonInfo info(fullMoonOfMay2016);
   EXPECT_EQ(1, countEntries("Entering: cMoonInfo::calcPhaseForTime", "Info"));

@@ -17,6 +17,28 @@ class ShadedPicture : public PrivateFolders {
             static_cast<std::uint8_t>(50.0F * blueFactor)};
   }
 
+  // A hash of the shaded form of a picture that has every brightness in each channel.
+  static std::uint64_t hashOfShaded(int size, int phase) {
+    xplImage image;
+    image.initWithSizeAndColor(size, size, {0, 0, 0});
+    for (int y = 0; y < size; ++y) {
+      for (int x = 0; x < size; ++x) {
+        image.setPixel(x, y, {channel(x * 7 + y * 3), channel(x * 5 + y * 11), channel(x + y * 13)});
+      }
+    }
+    shadeMoon(image, static_cast<float>(size), static_cast<float>(size), phase);
+    std::uint64_t hash = 14695981039346656037U;
+    for (int y = 0; y < size; ++y) {
+      for (int x = 0; x < size; ++x) {
+        hash ^= image.getPixel(x, y).value();
+        hash *= 1099511628211U;
+      }
+    }
+    return hash;
+  }
+
+  static std::uint8_t channel(int value) { return static_cast<std::uint8_t>(value % 256); }
+
   // Shades a picture of one colour and compares each pixel; the lower half mirrors rows about height - y.
   void expectShaded(int size, int phase) {
     xplImage image;
@@ -32,6 +54,17 @@ class ShadedPicture : public PrivateFolders {
     }
   }
 };
+
+// Computed by another program with 60 digits.
+TEST_F(ShadedPicture, IsTheSameOnEveryPlatform) {
+  EXPECT_EQ(16655904571939113873U, hashOfShaded(50, 0));
+  EXPECT_EQ(5216764374294501717U, hashOfShaded(100, 40));
+  EXPECT_EQ(12105207440478462037U, hashOfShaded(100, 180));
+  EXPECT_EQ(6544931090982263525U, hashOfShaded(200, 271));
+  EXPECT_EQ(14567348069886130901U, hashOfShaded(300, 90));
+  EXPECT_EQ(9626192697440264917U, hashOfShaded(300, 341));
+  EXPECT_EQ(18038810303453643221U, hashOfShaded(300, -77));
+}
 
 TEST_F(ShadedPicture, HasEachPixelDarkenedOnce) {
   for (const int size : {50, 100}) {

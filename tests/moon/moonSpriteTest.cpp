@@ -1,33 +1,12 @@
 // The moon's picture: which is loaded, how it is darkened once, and that it leaves the sky around it alone.
-#include <memory>
-
-#include "moon/moonFixture.h"
+#include "moon/firstMoonFixture.h"
 #include "moon/moonShading.h"
-#include "moon/moonSprite.h"
+#include "support/settings.h"
 #include "windowharness/testWindow.h"
 
 namespace {
 
-constexpr std::int64_t momentOfTheFirstMoon = 1486144800;  // 271 degrees
-constexpr int phaseOfTheFirstMoon = 271;
-
-// A sprite of this moment with a picture of one colour and this size.
-std::unique_ptr<cMoonSprite> paintedMoon(int size, xplColor color) {
-  auto moon = std::make_unique<cMoonSprite>();
-  moon->image()->initWithSizeAndColor(size, size, color);
-  moon->calcSize();
-  return moon;
-}
-
-// Every test here begins in a process in which one moon was illuminated, always at the same moment.
-class MoonSprite : public MoonTest {
- protected:
-  void SetUp() override {
-    MoonTest::SetUp();
-    clock.set({momentOfTheFirstMoon, 0});
-    paintedMoon(2, {0, 0, 0})->illuminate();
-  }
-};
+using MoonSprite = FirstMoonTest;
 
 TEST_F(MoonSprite, BeginsWithoutPictureAndKnowsThePresentPhase) {
   clock.set({1463865300, 0});
@@ -81,6 +60,69 @@ TEST_F(MoonSprite, WithoutAnImageOnlyLogsTheBlock) {
   EXPECT_EQ(2, countEntries("Exiting: cMoonSprite.illuminate() classic. Duration:0.000 sec"));
   EXPECT_EQ(1, countEntries("moon size:2px"));
   EXPECT_EQ(0, countEntries("moon size:0px"));
+}
+
+TEST_F(MoonSprite, KeptLightOfTheNorthAlsoForTheSouth) {
+  xplUserSettings().set("fromSouthHemisphere", true);
+  const auto moon = paintedMoon(100, {200, 100, 50});
+  moon->illuminate();
+  EXPECT_GT(moon->image()->getPixel(90, 50).red(), 100) << "waxing: lit on the right";
+  EXPECT_EQ(0, moon->image()->getPixel(10, 50).red());
+}
+
+TEST_F(MoonSprite, IlluminatedLaterThanTheClockJumpedBackKeepsItsPhase) {
+  const auto moon = paintedMoon(100, {200, 100, 50});
+  clock.set({momentOfTheFirstMoon - 10 * 86400, 0});
+  moon->illuminate();
+  EXPECT_EQ(phaseOfTheFirstMoon, moon->moonInfo().phase());
+  EXPECT_GT(moon->image()->getPixel(90, 50).red(), 100);
+}
+
+// A picture as the program's are: a disc on black.
+class MoonOnASky : public MoonSprite {
+ protected:
+  static constexpr xplColor sky{250, 240, 230};
+  static constexpr int size = 50;
+
+  static bool isInDisc(int x, int y) { return (x - 25) * (x - 25) + (y - 25) * (y - 25) <= 25 * 25; }
+
+  void SetUp() override {
+    MoonSprite::SetUp();
+    moon = paintedMoon(size, {0, 0, 0});
+    for (int y = 0; y < size; ++y) {
+      for (int x = 0; x < size; ++x) {
+        if (isInDisc(x, y)) {
+          moon->image()->setPixel(x, y, {200, 200, 200});
+        }
+      }
+    }
+    moon->illuminate();
+    moon->setRenderWindow(&window);
+    window.backgroundColor.push(sky);
+    window.clear();
+    moon->x = 5.0F;
+    moon->y = 3.0F;
+    moon->draw();
+  }
+
+  TestWindow native{60, 60};
+  xplWindow window{native.handle()};
+  std::unique_ptr<cMoonSprite> moon;
+};
+
+TEST_F(MoonOnASky, LeavesTheSkyAroundItsDiscAlone) {
+  for (int y = 0; y < 60; ++y) {
+    for (int x = 0; x < 60; ++x) {
+      const bool isMoon = x >= 5 && x < 55 && y >= 3 && y < 53 && isInDisc(x - 5, y - 3);
+      const xplColor expected = isMoon ? moon->image()->getPixel(x - 5, y - 3) : sky;
+      ASSERT_EQ(expected.value(), window.getPixel(x, y).value()) << x << ", " << y;
+    }
+  }
+}
+
+TEST_F(MoonOnASky, HidesTheSkyBehindItsDarkSide) {
+  EXPECT_EQ(xplColor(0, 0, 60), window.getPixel(5 + 10, 3 + 25)) << "unlit";
+  EXPECT_GT(window.getPixel(5 + 45, 3 + 25).red(), 100) << "lit";
 }
 
 }  // namespace

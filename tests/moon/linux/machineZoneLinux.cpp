@@ -2,16 +2,15 @@
 #include "moon/machineZone.h"
 #include "support/linux/temporaryEnvironment.h"
 
-struct UniversalZone::Previous {
+struct MachineZone::Previous {
   TemporaryEnvironment environment;
 };
 
-UniversalZone::UniversalZone() : m_previous(std::make_unique<Previous>()) {
-  m_previous->environment.set("TZ", "UTC0");
-}
+MachineZone::MachineZone() : m_previous(std::make_unique<Previous>()) {}
 
-UniversalZone::~UniversalZone() = default;
+MachineZone::~MachineZone() = default;
 
-bool UniversalZone::isUniversal() const {
+bool MachineZone::set(const char* name) {
+  m_previous->environment.set("TZ", name);
   return true;
 }

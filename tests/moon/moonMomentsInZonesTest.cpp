@@ -2,25 +2,25 @@
 // in the north, one with summer time in the south.
 #include "moon/moonFixture.h"
 #include "moon/moonMoment.h"
-#include "support/linux/temporaryEnvironment.h"
 
 namespace {
 
 constexpr MoonMoment moments[] = {
-#include "moon/linux/moonMomentsInZones.inc"
+#include "moon/moonMomentsInZones.inc"
 };
 
 class MoonMomentsInZones : public MoonTest, public testing::WithParamInterface<MoonMoment> {
  protected:
-  TemporaryEnvironment environment;
+  void SetUp() override { beginInZone(GetParam().zone); }
 };
 
 TEST_P(MoonMomentsInZones, AreAsComputedElsewhere) {
-  environment.set("TZ", GetParam().zone);
   clock.set({GetParam().time, 0});
   expectMoment(GetParam());
 }
 
-INSTANTIATE_TEST_SUITE_P(OfTheWorld, MoonMomentsInZones, testing::ValuesIn(moments));
+INSTANTIATE_TEST_SUITE_P(OfTheWorld, MoonMomentsInZones, testing::ValuesIn(moments), [](const auto& test) {
+  return zoneInTestName(test.param.zone) + std::to_string(test.index);
+});
 
 }  // namespace
