@@ -78,6 +78,17 @@ TEST_F(MoonSprite, IlluminatedLaterThanTheClockJumpedBackKeepsItsPhase) {
   EXPECT_GT(moon->image()->getPixel(90, 50).red(), 100);
 }
 
+TEST_F(MoonSprite, ThatFailsToLoadStaysAsItWas) {
+  cMoonSprite moon;
+  ASSERT_TRUE(moon.loadMoonImage(100));
+  const xplColor middle = moon.image()->getPixel(50, 50);
+  EXPECT_FALSE(moon.loadMoonImage(300)) << "it has a picture";
+  EXPECT_EQ(1, countEntries("xplImageWin.initWithResource_impl(122) called but hBitmap not null", "ERROR"));
+  EXPECT_EQ(100.0F, moon.width);
+  EXPECT_EQ(100.0F, moon.height);
+  EXPECT_EQ(middle, moon.image()->getPixel(50, 50));
+}
+
 // A picture as the program's are: a disc on black.
 class MoonOnASky : public MoonSprite {
  protected:
