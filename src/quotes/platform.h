@@ -7,7 +7,8 @@
 namespace quotesPlatform {
 
 // The face that quotes are set in: one with serifs that the platform is sure to have, or to replace by one of
-// the same widths. A literal of at most 15 characters, so that no string needs memory to copy it in each frame.
+// the same widths. A literal of at most 15 characters, so that no string needs memory to copy it in each
+// frame.
 const char* faceName();
 
 // How many characters a narrow string of the platform shows; never more than it has bytes.

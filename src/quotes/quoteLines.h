@@ -7,7 +7,7 @@
 
 // What is shown of a quote at most: more than any screen has room for, and little enough that measuring and
 // drawing it never holds up a frame, whatever stands in the user's file.
-inline constexpr std::size_t maxQuoteLines = 500;
+inline constexpr std::size_t maxQuoteLines = 200;
 inline constexpr std::size_t maxQuoteLineBytes = 4096;
 inline constexpr std::size_t maxQuoteBytes = 8192;  // all lines together
 
