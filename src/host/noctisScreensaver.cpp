@@ -4,8 +4,11 @@
 #include <utility>
 
 #include "support/settings.h"
+#include "world/oldTvEffect.h"
 
 namespace {
+
+constexpr int oldTvEffect = 1;  // the setting's value
 
 std::string& sharedContainerFolder() {
   static std::string folder;
@@ -20,7 +23,9 @@ noctisScreensaver::noctisScreensaver() {
   logInfo().addf("INI file for app settings=%s", xplApplicationSettings().filename().c_str());
 }
 
-noctisScreensaver::~noctisScreensaver() = default;
+noctisScreensaver::~noctisScreensaver() {
+  m_startupEffect.reset();
+}
 
 void noctisScreensaver::initWithWindowHandle(xplWindowHandle windowHandle, std::int32_t monitorId) {
   const logFunctionLife block("noctisScreensaver.initWithWindowHandle()");
@@ -31,8 +36,18 @@ void noctisScreensaver::initWithWindowHandle(xplWindowHandle windowHandle, std::
     m_replacedWorlds.push_back(std::move(m_world));
   }
   logInfo().addf("Creating TnoctisWorld with monitorId =%i", monitorId);
+  startStartupEffect(monitorId);
   m_world = std::make_unique<TnoctisWorld>(window(), monitorId, m_MonitorList, containerFolder());
   m_world->initializeWorld();
+}
+
+void noctisScreensaver::startStartupEffect(std::int32_t monitorId) {
+  if (!m_startupEffect && m_appSettings.startupEffect.read() == oldTvEffect) {
+    m_startupEffect = std::make_unique<cWindowTransitionEffect_OldTV>();
+  }
+  if (m_startupEffect) {
+    m_startupEffect->initWithWindow(window(), monitorId);
+  }
 }
 
 void noctisScreensaver::showConfigureSheet(xplWindowHandle parentWindow) {
@@ -50,12 +65,21 @@ const std::string& noctisScreensaver::processContainerFolder() {
 }
 
 void noctisScreensaver::animateOneFrame(float seconds) {
-  if (m_world) {
+  if (m_world && !startupEffectPlays()) {
     m_world->update(seconds);
   }
 }
 
 void noctisScreensaver::drawOneFrame() {
+  if (startupEffectPlays()) {
+    m_startupEffect->draw();
+    return;
+  }
+  if (m_startupEffect) {
+    m_startupEffect.reset();
+    logInfo().add("mPreserveDeskopContents = false;");
+    mPreserveDeskopContents = false;
+  }
   if (m_world) {
     m_world->draw();
   }
@@ -63,6 +87,7 @@ void noctisScreensaver::drawOneFrame() {
 
 void noctisScreensaver::shutDown() {
   const logFunctionLife block("noctisScreensaver.shutDown()");
+  m_startupEffect.reset();
   logInfo().add("Deleted startupEffectPtr");
   m_world.reset();
   logInfo().add("Deleted ncWorldPtr");

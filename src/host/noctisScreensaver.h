@@ -9,6 +9,7 @@
 #include "support/log.h"
 #include "support/settingsGroups.h"
 #include "world/noctisWorld.h"
+#include "world/windowTransitionEffect.h"
 
 class noctisScreensaver : public xplScreenSaverAbstract {
  public:
@@ -16,11 +17,14 @@ class noctisScreensaver : public xplScreenSaverAbstract {
   noctisScreensaver();
   ~noctisScreensaver() override;
 
-  // Builds the world on the window. Passes on what the world's construction throws.
+  // Starts the startup effect where the user wants one, and builds the world on the window. Passes on what
+  // the world's construction throws.
   void initWithWindowHandle(xplWindowHandle windowHandle, std::int32_t monitorId) override;
   void showConfigureSheet(xplWindowHandle parentWindow) override;
   void setContainerFolder(const std::string& path) override;
+  // The world stands still while the startup effect plays.
   void animateOneFrame(float seconds) override;
+  // Draws the startup effect while it plays, the world afterwards.
   void drawOneFrame() override;
   // The back buffer covers the whole window at every paint: there is nothing to erase.
   void eraseBackground() override {}
@@ -31,8 +35,12 @@ class noctisScreensaver : public xplScreenSaverAbstract {
   static const std::string& processContainerFolder();
 
  private:
+  void startStartupEffect(std::int32_t monitorId);
+  bool startupEffectPlays() const { return m_startupEffect && !m_startupEffect->finished(); }
+
   std::unique_ptr<TnoctisWorld> m_world;
-  std::vector<std::unique_ptr<TnoctisWorld>> m_replacedWorlds;  // by a second initialisation
+  std::unique_ptr<cWindowTransitionEffect_base> m_startupEffect;  // null where there is none, and after it
+  std::vector<std::unique_ptr<TnoctisWorld>> m_replacedWorlds;    // by a second initialisation
   cAppSettings m_appSettings;
   logObjectLife m_life{"noctisScreensaver"};
 };
