@@ -84,6 +84,8 @@ void runSky(const RenderOptions& options, const std::function<void(const std::st
 
   OffscreenWindow native(options.width, options.height);
   xplWindow window(native.handle());
+  // What the sky leaves open stays black: a window that is never shown may begin with a part of the screen.
+  window.fillRect(xplRect<int>(0, 0, options.width, options.height), xplColor(0, 0, 0));
   const std::vector<xplRect<int>> monitors = {xplRect<int>(0, 0, options.width, options.height)};
   TnoctisWorld world(&window, options.preview ? -1 : 0, monitors, xplFileSystemMini::applicationFolder());
   world.initializeWorld();

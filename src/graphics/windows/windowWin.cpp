@@ -36,7 +36,7 @@ xplWindowWin::xplWindowWin(xplWindowHandle handle) : m_handle(handle), m_tools(m
   SetBkMode(m_backBufferContext, TRANSPARENT);
   m_backBufferBitmap = CreateCompatibleBitmap(m_windowContext, width, height);
   m_previousBitmap = SelectObject(m_backBufferContext, m_backBufferBitmap);
-  BitBlt(m_backBufferContext, 0, 0, width, height, m_windowContext, 0, 0, SRCCOPY);
+  takeContent();
   m_target = m_backBufferContext;
 }
 
@@ -51,26 +51,53 @@ xplWindowWin::~xplWindowWin() {
   }
 }
 
+// A window that is not on the screen yet has no content of its own: the screen has, at its place.
+void xplWindowWin::takeContent() {
+  if (IsWindowVisible(m_handle) != FALSE) {
+    BitBlt(m_backBufferContext, 0, 0, getWidth(), getHeight(), m_windowContext, 0, 0, SRCCOPY);
+    return;
+  }
+  const HDC screen = GetDC(nullptr);
+  BitBlt(m_backBufferContext, 0, 0, getWidth(), getHeight(), screen, getLeft(), getTop(), SRCCOPY);
+  ReleaseDC(nullptr, screen);
+  m_isContentUnshown = true;
+}
+
+// The compositor gives a new window an empty surface, where there used to be the pixels that it covered:
+// drawing straight to it starts from those.
+void xplWindowWin::showTakenContent() {
+  m_isContentUnshown = false;
+  BitBlt(m_windowContext, 0, 0, getWidth(), getHeight(), m_backBufferContext, 0, 0, SRCCOPY);
+}
+
+xplDrawingToolsWinDC& xplWindowWin::tools() {
+  if (m_isContentUnshown && !useBackBuffer && IsWindowVisible(m_handle) != FALSE) {
+    showTakenContent();
+  }
+  return m_tools;
+}
+
 void xplWindowWin::flush() {
   if (m_backBufferContext != nullptr && useBackBuffer) {
+    m_isContentUnshown = false;
     BitBlt(m_windowContext, 0, 0, getWidth(), getHeight(), m_backBufferContext, 0, 0, SRCCOPY);
   }
 }
 
 void xplWindowWin::fillWindow(xplColor color) {
-  m_tools.fillRect(m_windowRect, color);
+  tools().fillRect(m_windowRect, color);
 }
 
 void xplWindowWin::fillRect(const xplRect<int>& rectangle, xplColor color) {
-  m_tools.fillRect({rectangle.left, rectangle.top, rectangle.getRight(), rectangle.getBottom()}, color);
+  tools().fillRect({rectangle.left, rectangle.top, rectangle.getRight(), rectangle.getBottom()}, color);
 }
 
 void xplWindowWin::fillEllipse(int left, int top, int right, int bottom, xplColor color) {
-  m_tools.fillEllipse(left, top, right, bottom, color);
+  tools().fillEllipse(left, top, right, bottom, color);
 }
 
 void xplWindowWin::drawLine(int x1, int y1, int x2, int y2, int penWidth, xplColor color) {
-  m_tools.drawLine(x1, y1, x2, y2, penWidth, color);
+  tools().drawLine(x1, y1, x2, y2, penWidth, color);
 }
 
 int xplWindowWin::getWidth() {

@@ -29,9 +29,13 @@ class xplWindowWin : public xplWindowBase {
   const HDC& currentTarget() const { return m_target; }
 
  protected:
-  xplDrawingToolsWinDC& tools() { return m_tools; }
+  // For drawing on the current target, and for reading from it.
+  xplDrawingToolsWinDC& tools();
 
  private:
+  void takeContent();
+  void showTakenContent();
+
   xplWindowHandle m_handle;
   RECT m_windowRect{};                   // screen coordinates, read once
   HDC m_windowContext = nullptr;         // released by the destructor
@@ -39,5 +43,7 @@ class xplWindowWin : public xplWindowBase {
   HBITMAP m_backBufferBitmap = nullptr;  // owned
   HGDIOBJ m_previousBitmap = nullptr;    // put back before the context is deleted
   HDC m_target = nullptr;
+  // The back buffer holds what was on the screen at the window's place, and the window does not show it yet.
+  bool m_isContentUnshown = false;
   xplDrawingToolsWinDC m_tools;
 };
