@@ -10,6 +10,11 @@ namespace {
 
 constexpr int maxDraws = 11;
 
+// Deliberate: these are shown on the sky like quotes. Who finds one there knows at once why there is no
+// quote, and can search for it; an empty place would say nothing.
+constexpr const char* textWithoutCategories = "empty allowedCategories";
+constexpr const char* textWithoutQuotes = "empty quotesDynamicList";
+
 }  // namespace
 
 xplVectorAsDB<sQuote>& cQuotes::quotesList() {
@@ -33,15 +38,16 @@ std::size_t cQuotes::countQuotes(std::int32_t category) {
 
 // Deliberate: a category that is hit without being allowed is removed for the rest of the process, and
 // turning it on again does not bring it back. And after the last draw that is tried its text is shown
-// although it is not allowed: it is the only way in which a category without a setting can appear. How many
-// draws a quote costs, and so every frame after it, depends on both.
+// although it is not allowed: it is the only way in which a category without a setting can appear, as soon as
+// there are more categories than draws. How many draws a quote costs, and so every frame after it, depends on
+// both.
 const char* cQuotes::getNextQuote(const std::vector<std::int32_t>& allowedCategories) {
   if (allowedCategories.empty()) {
-    return "empty allowedCategories";
+    return textWithoutCategories;
   }
   xplVectorAsDB<sQuote>& list = quotesList();
   if (list.empty()) {
-    return "empty quotesDynamicList";
+    return textWithoutQuotes;
   }
   const char* text = "";
   for (int i = 0; i < maxDraws; ++i) {

@@ -12,6 +12,9 @@
 namespace {
 
 constexpr float pauseBetweenQuotes = 3.0F;  // seconds
+
+// Deliberate: after as many places the last one is taken, free or not. A quote that covers the moon for a
+// while is better than none, and the draws that follow depend on when the search ends.
 constexpr int maxTries = 11;
 
 std::vector<std::int32_t> allowedCategories() {
@@ -78,11 +81,11 @@ void cQuotesSprite::loadNextQuote() {
   const char* quote = "";
   try {
     quote = m_source(allowedCategories());
+    // The log cuts longer entries anyway; the limit keeps it from walking to the end of a very long text.
+    logInfo().addf("getNextQuote() returned:%.8000s", quote);
   } catch (...) {  // a step that fails must not end the frame; what is shown then is an empty quote
     logError().add("getNextQuote() exception");
   }
-  // The log cuts longer entries anyway; the limit keeps it from walking to the end of a very long text.
-  logInfo().addf("getNextQuote() returned:%.8000s", quote);
   setParagraph(quoteLines(quote));
 }
 

@@ -57,7 +57,7 @@ TEST_F(QuotesLabel, KeepsClearOfBothOtherAreas) {
   EXPECT_GT(countTries(), 250);
 }
 
-TEST_F(QuotesLabel, TakesTheEleventhPlaceWhereNoneIsFree) {
+TEST_F(QuotesLabel, KeptEleventhPlaceIsTakenWhereNoneIsFree) {
   label.avoidRect1 = xplRect<float>(0.0F, 0.0F, 640.0F, 480.0F);
   label.loadNextQuote();
   xplRandom::seed(9);

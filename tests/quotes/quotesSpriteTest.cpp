@@ -68,7 +68,7 @@ TEST_F(QuotesLabel, LogsWhatItShows) {
   EXPECT_EQ(1, countEntries("selecting random position for quote:first line", "Info"));
 }
 
-TEST_F(QuotesLabel, ShowsPlaceholdersLikeQuotes) {
+TEST_F(QuotesLabel, KeptPlaceholdersAreShownLikeQuotes) {
   cQuotesSprite real;
   real.setRenderWindow(&window);
   freshList();
@@ -94,6 +94,7 @@ TEST_F(QuotesLabel, AnExceptionIsLoggedAndEndsNothing) {
   failing.loadNextQuote();
   EXPECT_EQ(1, countEntries("getNextQuote() exception", "ERROR"));
   EXPECT_EQ("", failing.text());
+  EXPECT_EQ(0, countEntries("getNextQuote() returned:"));
 }
 
 TEST_F(QuotesLabel, TakesItsStyleAndReadsTheCollectionWhenItIsInitialized) {

@@ -45,14 +45,14 @@ TEST_F(Quotes, AreCountedByCategory) {
   EXPECT_EQ(0U, cQuotes::countQuotes(9));
 }
 
-TEST_F(Quotes, NoAllowedCategoriesAreAnsweredWithAText) {
+TEST_F(Quotes, KeptTextAnswersWhereNoCategoryIsAllowed) {
   freshList();
   const std::uint32_t state = xplRandom::state();
   EXPECT_STREQ("empty allowedCategories", cQuotes::getNextQuote({}));
   EXPECT_EQ(state, xplRandom::state());
 }
 
-TEST_F(Quotes, AnEmptyListIsAnsweredWithAText) {
+TEST_F(Quotes, KeptTextAnswersWhereTheListIsEmpty) {
   cQuotes::quotesList() = {};
   EXPECT_STREQ("empty quotesDynamicList", cQuotes::getNextQuote({1}));
   EXPECT_STREQ("empty allowedCategories", cQuotes::getNextQuote({})) << "which is looked at first";
@@ -124,6 +124,20 @@ TEST_F(Quotes, KeptFallbackGivesTheEleventhDrawAlthoughItIsNotAllowed) {
   }
   EXPECT_STREQ("not allowed", cQuotes::getNextQuote({1}));
   EXPECT_EQ(1U, list.size()) << "eleven categories were hit, and left";
+}
+
+TEST_F(Quotes, KeptFallbackNeedsMoreCategoriesThanDraws) {
+  const auto& list = freshList("mine\n");
+  EXPECT_STREQ("", cQuotes::getNextQuote({99})) << "nine categories are gone before the eleventh draw";
+  EXPECT_TRUE(list.empty());
+}
+
+TEST_F(Quotes, KeptPurgeOutlivesTheSettingThatCausedIt) {
+  auto& list = cQuotes::quotesList();
+  list = {};
+  list.append({quoteCategory::love, "love"});
+  EXPECT_STREQ("", cQuotes::getNextQuote({quoteCategory::wisdom}));
+  EXPECT_STREQ("empty quotesDynamicList", cQuotes::getNextQuote({quoteCategory::love}));
 }
 
 TEST_F(Quotes, KeptCategoriesWithoutASettingLeaveLikeTheOthers) {
