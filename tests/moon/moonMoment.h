@@ -1,5 +1,5 @@
-// What the moon and its label say at a moment in a zone: rows that another program computed from the same
-// tables, with its own calendar and zones.
+// What the moon and its label say at a moment in a zone: rows that reference/moments.py computed from the
+// same tables, with its own calendar and zones.
 #pragma once
 
 #include <cstdint>

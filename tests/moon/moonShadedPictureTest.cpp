@@ -55,7 +55,7 @@ class ShadedPicture : public PrivateFolders {
   }
 };
 
-// Computed by another program with 60 digits.
+// Computed by reference/shading.py with 60 digits.
 TEST_F(ShadedPicture, IsTheSameOnEveryPlatform) {
   EXPECT_EQ(16655904571939113873U, hashOfShaded(50, 0));
   EXPECT_EQ(5216764374294501717U, hashOfShaded(100, 40));

@@ -48,9 +48,10 @@ int discPixels(int size) {
   return count;
 }
 
-// Computed by another program with 60 digits. For these four sizes no result of acos lies closer than 2.8e-6
-// degrees to a whole one, where truncation would change, and no result of cos closer than 300,000 units in
-// the last place to where rounding to float would: libraries that are right to a few units cannot differ.
+// Computed by reference/shading.py with 60 digits. For these four sizes no result of acos lies closer
+// than 2.8e-6 degrees to a whole one, where truncation would change, and no result of cos closer than 300,000
+// units in the last place to where rounding to float would: libraries that are right to a few units cannot
+// differ.
 TEST(MoonPixelIllumination, IsTheSameOnEveryPlatform) {
   EXPECT_EQ(17207089957928954273U, hashOf(50, 0, 1));
   EXPECT_EQ(11033450507067044338U, hashOf(100, 0, 7));
