@@ -1,0 +1,22 @@
+// Implements the About page.
+#include "host/sheet/linux/aboutPage.h"
+
+#include "host/sheet/aboutText.h"
+#include "host/sheet/controlIds.h"
+#include "support/settings.h"
+
+AboutPage::AboutPage() {
+  setObjectName(QString::number(controlIds::about));
+  setTextFormat(Qt::RichText);
+  setTextInteractionFlags(Qt::TextBrowserInteraction);
+  setOpenExternalLinks(true);
+  setWordWrap(true);
+  setAlignment(Qt::AlignLeft | Qt::AlignTop);
+  const int margin = fontMetrics().height();
+  setContentsMargins(margin, margin, margin, margin);
+}
+
+void AboutPage::open() {
+  const QString file = QString::fromStdString(xplUserSettings().filename()).toHtmlEscaped();
+  setText(QString::fromStdString(aboutText(file.toStdString())).replace("\n", "<br>"));
+}

@@ -1,0 +1,7 @@
+// The icon of the settings sheet.
+#pragma once
+
+#include <QIcon>
+
+// In all sizes that the program carries; an empty icon where it carries none.
+QIcon sheetIcon();
