@@ -78,6 +78,7 @@ void TnoctisWorld::takeOverWindow() {
   } else {
     m_mainMonitorRect = m_monitorList->front();
   }
+  findMainMonitorInWindow();
   logInfo().addf("m_windowRect.left=%i, top=%i, w=%i h=%i", m_windowRect.left, m_windowRect.top,
                  m_windowRect.width, m_windowRect.height);
   logInfo().addf("m_mainMonitorRect.left=%i, top=%i, w=%i h=%i", m_mainMonitorRect.left,
@@ -86,6 +87,8 @@ void TnoctisWorld::takeOverWindow() {
 
 void TnoctisWorld::update(float elapsedSec) {
   m_spriteDirector.updateAll(elapsedSec);
+  centerLabelUnderMoon();
+  keepQuotesClearOfTheMoon();
   if (isNextMessageDue()) {
     applyNextMessage();
   }

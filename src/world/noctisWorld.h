@@ -9,9 +9,13 @@
 
 #include "graphics/rect.h"
 #include "graphics/window.h"
+#include "moon/moonInfoSprite.h"
+#include "moon/moonSprite.h"
+#include "quotes/quotesSprite.h"
 #include "sprites/moveRestriction.h"
 #include "sprites/spriteDirector.h"
 #include "sprites/spriteText.h"
+#include "support/settingsGroups.h"
 #include "world/airplane.h"
 #include "world/frameRateSprite.h"
 #include "world/msgStarDirector.h"
@@ -50,7 +54,10 @@ class TnoctisWorld {
   const std::string& containerFolder() const { return m_containerFolder; }
   const xplRect<int>& windowRect() const { return m_windowRect; }
   const xplRect<int>& mainMonitorRect() const { return m_mainMonitorRect; }
+  const cMoonInfoSprite& moonInfoLabel() const { return m_moonInfoLabel; }
+  const cQuotesSprite& quotesLabel() const { return m_quotesLabel; }
   const TorvSpriteText& bottomLine() const { return m_bottomLine; }
+  const cMoonSprite& moon() const { return m_moon; }
   const cStarSpriteWithPixels& star(std::size_t index) const { return *m_stars[index]; }
   const cMsgStar& msgStar(std::size_t index) const { return *m_msgStars[index]; }
   const cMsgStarDirector& msgStarDirector() const { return m_msgStarDirector; }
@@ -64,19 +71,32 @@ class TnoctisWorld {
   void initializeBackground();
   void initializeStars();
   void initializeMsgStars();
+  void initializeMoon();
+  void placeMoon();
   void initializeBottomLine();
+  void initializeMoonInfoLabel();
+  void initializeQuotesLabel();
   void initializeAirplanes();
+  void findMainMonitorInWindow();
+  bool isMoonKeptOnMainMonitor() const;
+  void centerLabelUnderMoon();
+  void keepQuotesClearOfTheMoon();
   bool isNextMessageDue() const;
   void parkBottomLine();
 
   std::int32_t m_monitorId;
-  xplRect<int> m_windowRect;       // in the window's own coordinates
-  xplRect<int> m_mainMonitorRect;  // in screen coordinates
-  TorvMoveRestriction_BounceInsideRect m_bounceInsideMainMonitor{&m_mainMonitorRect};
+  xplRect<int> m_windowRect;           // in the window's own coordinates
+  xplRect<int> m_mainMonitorRect;      // in screen coordinates
+  xplRect<int> m_mainMonitorInWindow;  // the main monitor's part of the window, in the window's coordinates
+  TorvMoveRestriction_BounceInsideRect m_bounceInsideMainMonitor{&m_mainMonitorInWindow};
   TorvMoveRestriction_BounceInsideRect m_bounceInsideWindow{&m_windowRect};
   TorvMoveRestriction_ContinueInsideRect m_continueInsideWindow{&m_windowRect};
   TorvSpriteDirector m_spriteDirector;
+  cMoonInfoSprite m_moonInfoLabel;
+  cQuotesSprite m_quotesLabel;
   TorvSpriteText m_bottomLine{"bottomLine"};
+  cMoonSprite m_moon;
+  cMoonSettings m_moonSettings;
   std::array<std::unique_ptr<cStarSpriteWithPixels>, starCount> m_stars;
   std::array<std::unique_ptr<cMsgStar>, msgStarCount> m_msgStars;
   std::array<cAirplane, airplaneCount> m_airplanes;

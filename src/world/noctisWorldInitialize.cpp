@@ -28,9 +28,12 @@ void TnoctisWorld::initializeWorld() {
   guarded("initializeBackground() exception", [this] { initializeBackground(); });
   initializeStars();
   initializeMsgStars();
+  initializeMoon();
   // Kept out of the director: whoever measures the program enables it and adds it there.
   m_frameRateLabel.disable();
   guarded("initializeBottomLine() exception", [this] { initializeBottomLine(); });
+  guarded("initializeMoonInfoLabel() exception", [this] { initializeMoonInfoLabel(); });
+  guarded("initializeQuotesLabel() exception", [this] { initializeQuotesLabel(); });
   initializeAirplanes();
   m_spriteDirector.setRenderWindowAll(m_window);
 }

@@ -147,6 +147,8 @@ TEST_F(World, LogsItsBuildingAndItsEndInThisOrder) {
   }
   const auto entries = logEntries();
   const std::vector<std::string> expected = {
+      "Entering: cMoonInfo::calcPhaseForTime",
+      "Exiting: cMoonInfo::calcPhaseForTime",
       "First cStarSpriteWithPixels create. Will create cStarPalette\n",
       "cImageBinder initializing 100 images",
       "TstarImageBinder created",
@@ -157,6 +159,9 @@ TEST_F(World, LogsItsBuildingAndItsEndInThisOrder) {
       "Entering: initializeWorld()",
       "Entering: cSkyBackgroundFactory.create()",
       "Exiting: cSkyBackgroundFactory.create(). Duration:0.000 sec",
+      "Entering: initializeMoon()",
+      "moon is disabled",
+      "Exiting: initializeMoon(). Duration:0.000 sec",
       "bottomLine default height:10",
       "Exiting: initializeWorld()",
       "Entering: cSkyBackground_ImageStretched.initialize()",
