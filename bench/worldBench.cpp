@@ -1,4 +1,4 @@
-// What it costs to build the world, its background prepared.
+// What it costs to build the world with its background and moon, and to lay out a message.
 #include <vector>
 
 #include <benchmark/benchmark.h>
@@ -6,6 +6,7 @@
 #include "graphics/linux/memoryWindow.h"
 #include "graphics/window.h"
 #include "privateRun.h"
+#include "world/messageProjection.h"
 #include "world/noctisWorld.h"
 
 namespace {
@@ -23,6 +24,15 @@ void buildWorld(benchmark::State& state) {
   }
 }
 
+void projectText(benchmark::State& state) {
+  const PrivateRun run;
+  std::vector<sTargetPoint> points;
+  for (auto _ : state) {
+    projectMessage("The quick brown fox\r\nleaps over the moon", xplRect<int>(0, 0, 1920, 1080), points);
+  }
+}
+
+BENCHMARK(projectText)->Unit(benchmark::kMillisecond);
 BENCHMARK(buildWorld)->DenseRange(0, 3)->Unit(benchmark::kMillisecond);
 
 }  // namespace
