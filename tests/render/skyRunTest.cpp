@@ -49,7 +49,7 @@ TEST_F(SkyRun, StartsLaterInTheSameSky) {
 }
 
 TEST_F(SkyRun, UsesTheSettingsFileAndLeavesItAlone) {
-  writeFile(path("mine.ini"), "background=1\n");
+  writeFile(path("mine.ini"), "background=1\nshowMoon=no\n");
   options.settingsFile = path("mine.ini");
   options.output = path("sky.raw");
   options.raw = true;
@@ -62,7 +62,7 @@ TEST_F(SkyRun, UsesTheSettingsFileAndLeavesItAlone) {
     darkBlue += bytes.substr(i * 4, 4) == std::string("\x29\0\0\xff", 4) ? 1 : 0;
   }
   EXPECT_GT(darkBlue, 160 * 90 / 3);
-  EXPECT_EQ("background=1\n", readFile(path("mine.ini")));
+  EXPECT_EQ("background=1\nshowMoon=no\n", readFile(path("mine.ini")));
 }
 
 TEST_F(SkyRun, NumbersItsPictures) {

@@ -180,6 +180,7 @@ TEST_F(World, LogsItsBuildingAndItsEndInThisOrder) {
 }
 
 TEST_F(World, DrawsTheStarsOverTheBackground) {
+  leaveOnlyStars();
   xplUserSettings().set("background", 0);
   const auto world = makeWorld(240, 180);
   world->initializeWorld();
