@@ -127,7 +127,7 @@ std::optional<FontFile> FontCatalogue::findWithCharacter(const FontRequest& requ
   const FcFontSet* fonts = m_configuration->allFontsFor(request);
   for (int i = 0; fonts != nullptr && i < fonts->nfont; ++i) {
     if (hasCharacter(*fonts->fonts[i], character)) {
-      if (const std::optional<FontFile> file = fileOf(fonts->fonts[i])) {
+      if (std::optional<FontFile> file = fileOf(fonts->fonts[i])) {
         return file;
       }
     }
