@@ -43,9 +43,11 @@ SharedPixelMemory::SharedPixelMemory(X11Connection& connection, int width, int h
       m_segment(xcb_generate_id(connection.get())) {}
 
 bool SharedPixelMemory::attach(FileDescriptor file) {
-  // The descriptor is closed by whoever sends it.
-  m_isAttached =
-      m_connection.succeeded(xcb_shm_attach_fd_checked(m_connection.get(), m_segment, ::dup(file.get()), 1));
+  // The display writes into it as well, when it is asked for what a window shows. The descriptor is closed by
+  // whoever sends it.
+  constexpr std::uint8_t isReadOnly = 0;
+  m_isAttached = m_connection.succeeded(
+      xcb_shm_attach_fd_checked(m_connection.get(), m_segment, ::dup(file.get()), isReadOnly));
   return m_isAttached;
 }
 

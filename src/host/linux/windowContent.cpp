@@ -76,8 +76,8 @@ bool readInPieces(X11Connection& connection, xcb_window_t window, const PixelFor
 void copyWindowContent(X11Connection& connection, xcb_window_t window, const PixelFormat& format,
                        PixelMemory& memory) {
   auto* shared = dynamic_cast<SharedPixelMemory*>(&memory);
-  const bool isRead = shared != nullptr ? readIntoShared(connection, window, *shared)
-                                        : readInPieces(connection, window, format, memory);
+  const bool isRead = (shared != nullptr && readIntoShared(connection, window, *shared)) ||
+                      readInPieces(connection, window, format, memory);
   if (!isRead) {
     fillWithBlack(memory);
   }

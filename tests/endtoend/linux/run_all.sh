@@ -5,10 +5,10 @@ set -u
 here=$(cd "$(dirname "$0")" && pwd)
 export LUNARIA_BIN; LUNARIA_BIN=$(cd "${1:?Usage: run_all.sh BUILD_BIN_DIR [SCRIPT...]}" && pwd) || exit 1
 shift
-for tool in Xvfb xsetroot xdotool import xwininfo xprop xrandr xrdb; do
+for tool in Xvfb xsetroot xdotool import display convert xwininfo xprop xrandr xrdb; do
   command -v "$tool" >/dev/null || { echo "no $tool: install xvfb, xdotool, imagemagick, x11-utils and x11-xserver-utils" >&2; exit 1; }
 done
-[ $# -gt 0 ] || set -- commandline configure fullrun preview signals displays environments window resources
+[ $# -gt 0 ] || set -- commandline configure fullrun startup preview signals displays environments window resources
 passed=0
 failed=0
 for script in "$@"; do

@@ -40,5 +40,6 @@ int holdGrab(const Display& display, const std::string& device);
 int tellPixels(const Display& display, const std::string& window);
 int tellCursor(const Display& display);
 int tellMasks(const Display& display, const std::string& window);
+int watchCross(const Display& display, const std::string& seconds);
 int askToClose(const Display& display, const std::string& window);
 int timeFirstFrame(const Display& display, char** command);

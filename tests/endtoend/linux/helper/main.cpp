@@ -17,6 +17,13 @@ constexpr char usage[] =
     "1/1000)\n"
     "       x11_helper cursor                  prints visible or hidden\n"
     "       x11_helper masks ID                prints the events that all programs together have selected\n"
+    "       x11_helper cross SECONDS           looks at the middle column and row for so long; at each "
+    "change "
+    "it\n"
+    "                                          prints the milliseconds, the column's dark pixels and the "
+    "white "
+    "ones\n"
+    "                                          of row and column\n"
     "       x11_helper close ID                sends what a close button sends\n"
     "       x11_helper first-frame COMMAND...  starts the command on a screen of one colour and prints the\n"
     "                                          milliseconds until the screen changes\n";
@@ -44,6 +51,9 @@ int main(int argc, char** argv) {
   }
   if (task == "masks" && argc == 3) {
     return tellMasks(display, argv[2]);
+  }
+  if (task == "cross" && argc == 3) {
+    return watchCross(display, argv[2]);
   }
   if (task == "close" && argc == 3) {
     return askToClose(display, argv[2]);
