@@ -43,6 +43,8 @@ full_run_ended_by button xdotool click 1
 full_run_ended_by wheel xdotool click 4
 full_run_ended_by key xdotool key a
 
+. "$here/startup.sh"
+
 # A second full run gives way to the first.
 start_saver /s
 check "second: the first one runs" wait_until 60 window_is Lunaria 0,0 "${screen}"
