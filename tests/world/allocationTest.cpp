@@ -2,6 +2,7 @@
 #include <atomic>
 #include <cstdlib>
 #include <new>
+#include <string>
 
 #include "oldTvFixture.h"
 #include "worldFixture.h"
@@ -53,6 +54,47 @@ TEST_F(OldTv, TakesNoMemoryForAFrame) {
   const long before = allocations.load();
   EXPECT_EQ(25, framesToTheEnd());
   EXPECT_EQ(before, allocations.load());
+}
+
+// All the texts of a sky, and which message its stars are on.
+struct Texts {
+  std::string label;
+  std::string quote;
+  std::string bottomLine;
+  const void* transition;
+
+  explicit Texts(const TnoctisWorld& world)
+      : label(world.moonInfoLabel().text()),
+        quote(world.quotesLabel().text()),
+        bottomLine(world.bottomLine().text()),
+        transition(world.msgStarDirector().transition()) {}
+  bool operator==(const Texts&) const = default;
+};
+
+TEST_F(World, OfEverythingTakesNoMemoryForAFrameInWhichNoTextChanges) {
+  xplUserSettings().set("showQuotes_Wisdom", true);
+  xplRandom::seed(5);
+  const auto world = makeWorld(640, 480);
+  world->initializeWorld();
+  world->update(0.04F);
+  world->draw();
+  int quietFrames = 0;
+  int quotes = 0;
+  for (int i = 0; i < 60 * 25; ++i) {
+    const Texts before(*world);
+    const long allocated = allocations.load();
+    world->update(0.04F);
+    world->draw();
+    const long taken = allocations.load() - allocated;
+    const Texts after(*world);
+    quotes += before.quote != after.quote ? 1 : 0;
+    if (before == after) {
+      ++quietFrames;
+      ASSERT_EQ(0, taken) << "frame " << i;
+    }
+  }
+  EXPECT_GT(quietFrames, 700);
+  EXPECT_GT(quotes, 1);
 }
 
 TEST_F(World, IsBuiltOfMemoryThatIsCounted) {
