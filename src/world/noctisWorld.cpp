@@ -1,6 +1,8 @@
 // Makes the sky and everything in it, moves it and draws it.
 #include "world/noctisWorld.h"
 
+#include <utility>
+
 #include "support/assertion.h"
 #include "support/log.h"
 #include "support/random.h"
@@ -25,8 +27,10 @@ constexpr int randomChoiceOdds = 20;      // one message in so many is chosen at
 }  // namespace
 
 TnoctisWorld::TnoctisWorld(xplWindow* window, std::int32_t monitorId,
-                           const std::vector<xplRect<int>>& monitorList, const std::string& containerFolder)
+                           const std::vector<xplRect<int>>& monitorList, const std::string& containerFolder,
+                           std::unique_ptr<xpliSoundOutput> soundOutput)
     : m_monitorId(monitorId),
+      m_soundPlayer(monitorId == previewMonitorId ? nullptr : std::move(soundOutput)),
       m_window(window),
       m_monitorList(&monitorList),
       m_containerFolder(containerFolder) {
@@ -34,6 +38,9 @@ TnoctisWorld::TnoctisWorld(xplWindow* window, std::int32_t monitorId,
   createMsgStars();
   if (m_window != nullptr) {
     takeOverWindow();
+  }
+  if (m_monitorId != previewMonitorId) {
+    m_soundPlayer.startBackgroundSound();
   }
 }
 
@@ -97,6 +104,7 @@ void TnoctisWorld::update(float elapsedSec) {
       transition != nullptr && transition->isRunning()) {
     parkBottomLine();
   }
+  m_soundPlayer.checkHourlySound(elapsedSec);
 }
 
 // A transition whose clock still stands at exactly 0 lets the next message through at once.

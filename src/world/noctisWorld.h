@@ -12,6 +12,7 @@
 #include "moon/moonInfoSprite.h"
 #include "moon/moonSprite.h"
 #include "quotes/quotesSprite.h"
+#include "services/soundPlayer.h"
 #include "sprites/moveRestriction.h"
 #include "sprites/spriteDirector.h"
 #include "sprites/spriteText.h"
@@ -31,9 +32,9 @@ class TnoctisWorld {
 
   // Borrows the window (null for none) and the monitor list (screen coordinates, the main monitor first);
   // both must outlive the world. monitorId: 0 for the normal run, -1 for the preview. containerFolder: the
-  // program's folder.
+  // program's folder. soundOutput is taken over; without one, and in the preview, the world is silent.
   TnoctisWorld(xplWindow* window, std::int32_t monitorId, const std::vector<xplRect<int>>& monitorList,
-               const std::string& containerFolder);
+               const std::string& containerFolder, std::unique_ptr<xpliSoundOutput> soundOutput = nullptr);
   ~TnoctisWorld();
   TnoctisWorld(const TnoctisWorld&) = delete;
   TnoctisWorld& operator=(const TnoctisWorld&) = delete;
@@ -85,6 +86,7 @@ class TnoctisWorld {
   void parkBottomLine();
 
   std::int32_t m_monitorId;
+  cSoundPlayer m_soundPlayer;
   xplRect<int> m_windowRect;           // in the window's own coordinates
   xplRect<int> m_mainMonitorRect;      // in screen coordinates
   xplRect<int> m_mainMonitorInWindow;  // the main monitor's part of the window, in the window's coordinates

@@ -67,10 +67,11 @@ TEST_F(NoctisScreensaver, LogsItsConstructionAndTheSettingsFiles) {
   const std::string application = xplApplicationSettings().filename();
   newEntries();
   const noctisScreensaver saver;
-  EXPECT_THAT(newEntries(),
-              ElementsAre("creating: xplScreenSaverAbstract", "Program: Lunaria screensaver 5.4.1",
-                          "creating: noctisScreensaver", "INI file for user settings=" + user,
-                          "INI file for app settings=" + application));
+  EXPECT_THAT(
+      newEntries(),
+      ElementsAre("creating: xplScreenSaverAbstract", "Program: Lunaria screensaver 5.4.1",
+                  "cPreventComputerSleep.changeSettingIfTimeHasExpired()", "creating: noctisScreensaver",
+                  "INI file for user settings=" + user, "INI file for app settings=" + application));
 }
 
 TEST_F(NoctisScreensaver, LogsItsEndInReverse) {
