@@ -2,7 +2,6 @@
 #include "services/telemetrySteps.h"
 
 #include "services/telemetryValues.h"
-#include "support/clock.h"
 #include "support/log.h"
 
 namespace {
@@ -35,14 +34,14 @@ void stopSession(xpliAnalytics& library) {
 
 }  // namespace
 
-void cTelemetryDoAllSteps::waitInterruptibly(std::int64_t milliseconds) const {
+void cTelemetryDoAllSteps::waitInterruptibly(std::int64_t milliseconds) {
   for (std::int64_t elapsed = 0; !abortRequested() && elapsed < milliseconds; elapsed += waitStep) {
-    xplClock::sleep(waitStep);
+    xplClock::sleep(waitStep, m_wakeUp);
   }
 }
 
 void cTelemetryDoAllSteps_Trackerbird::doAllSteps(const MakeAnalytics& makeAnalytics,
-                                                  const std::string& cacheFolder) const {
+                                                  const std::string& cacheFolder) {
   waitInterruptibly(waitBeforeStart);
   if (abortRequested()) {
     logInfo().add("telemetry TrackerBird Aborted. Point1");
@@ -53,8 +52,7 @@ void cTelemetryDoAllSteps_Trackerbird::doAllSteps(const MakeAnalytics& makeAnaly
   }
 }
 
-void cTelemetryDoAllSteps_Trackerbird::doSession(xpliAnalytics& library,
-                                                 const std::string& cacheFolder) const {
+void cTelemetryDoAllSteps_Trackerbird::doSession(xpliAnalytics& library, const std::string& cacheFolder) {
   setCachePath(library, cacheFolder);
   library.createConfig(telemetryValues::serviceAddress, telemetryValues::productId,
                        telemetryValues::productVersion, telemetryValues::buildStamp(), false);

@@ -20,6 +20,7 @@ class SystemClock : public xplClockSource {
   void sleep(unsigned milliseconds) override {
     std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
   }
+  void sleep(unsigned milliseconds, xplWakeUp& wakeUp) override { wakeUp.wait(milliseconds); }
 };
 
 // The source that is in force. Other threads may read the clock while the main one overrides it.
@@ -34,6 +35,17 @@ xplClockSource& source() {
 }
 
 }  // namespace
+
+void xplWakeUp::ring() {
+  const std::lock_guard lock(m_mutex);
+  m_isRung = true;
+  m_rung.notify_all();
+}
+
+void xplWakeUp::wait(unsigned milliseconds) {
+  std::unique_lock lock(m_mutex);
+  m_rung.wait_for(lock, std::chrono::milliseconds(milliseconds), [this] { return m_isRung; });
+}
 
 xplInstant xplManualClock::now() {
   const std::lock_guard lock(m_mutex);
@@ -69,6 +81,10 @@ xplInstant xplClock::preciseNow() {
 
 void xplClock::sleep(unsigned milliseconds) {
   source().sleep(milliseconds);
+}
+
+void xplClock::sleep(unsigned milliseconds, xplWakeUp& wakeUp) {
+  source().sleep(milliseconds, wakeUp);
 }
 
 xplClock::Override::Override(xplClockSource& source) : m_previous(currentSource().exchange(&source)) {}

@@ -1,6 +1,7 @@
 // The one place where the program reads the time or waits; tests and the renderer set it.
 #pragma once
 
+#include <condition_variable>
 #include <cstdint>
 #include <ctime>
 #include <mutex>
@@ -12,6 +13,19 @@ struct xplInstant {
   std::int64_t microseconds = 0;
 };
 
+// Ends a sleep early, from another thread. Once rung it ends every later sleep at once, too.
+class xplWakeUp {
+ public:
+  void ring();
+  // Returns when it is rung, after this many milliseconds at the latest.
+  void wait(unsigned milliseconds);
+
+ private:
+  std::mutex m_mutex;
+  std::condition_variable m_rung;
+  bool m_isRung = false;
+};
+
 // Where the clock takes its time from. Implementations may be called from any thread.
 class xplClockSource {
  public:
@@ -19,6 +33,8 @@ class xplClockSource {
   virtual xplInstant now() = 0;
   // Returns after the given time, in milliseconds, has passed on this clock.
   virtual void sleep(unsigned milliseconds) = 0;
+  // The same, less where it is woken up. A clock whose sleeps take no real time need not listen.
+  virtual void sleep(unsigned milliseconds, xplWakeUp& /*wakeUp*/) { sleep(milliseconds); }
 };
 
 // A clock that stands still until it is set or slept on. Sleeping moves it forward and returns at once.
@@ -26,6 +42,7 @@ class xplManualClock : public xplClockSource {
  public:
   explicit xplManualClock(xplInstant start) : m_now(start) {}
   xplInstant now() override;
+  using xplClockSource::sleep;
   void sleep(unsigned milliseconds) override { advance(std::int64_t{milliseconds} * 1000); }
   void set(xplInstant instant);
   // Moves the clock by this many microseconds; a negative amount moves it back.
@@ -43,6 +60,7 @@ class xplClock {
   static std::int64_t now();
   static xplInstant preciseNow();
   static void sleep(unsigned milliseconds);
+  static void sleep(unsigned milliseconds, xplWakeUp& wakeUp);
 
   // Local broken-down time of a moment; nothing where the platform cannot tell (a year that does not fit).
   static std::optional<std::tm> localTime(std::int64_t seconds);

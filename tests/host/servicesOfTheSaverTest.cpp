@@ -47,6 +47,7 @@ class ServicesOfTheSaver : public PrivateFolders {
 class RealSleep : public xplClockSource {
  public:
   xplInstant now() override { return {1463865300, 0}; }
+  using xplClockSource::sleep;
   void sleep(unsigned milliseconds) override {
     std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
   }

@@ -129,6 +129,7 @@ class GatedClock : public xplClockSource {
  public:
   explicit GatedClock(xplInstant start) : m_hands(start) {}
   xplInstant now() override { return m_hands.now(); }
+  using xplClockSource::sleep;
   void sleep(unsigned milliseconds) override {
     std::unique_lock lock(m_mutex);
     m_isAsleep = true;

@@ -237,6 +237,7 @@ class HurryingClock : public xplClockSource {
  public:
   explicit HurryingClock(std::int64_t realFrom) : m_realFrom(realFrom) {}
   xplInstant now() override { return m_hands.now(); }
+  using xplClockSource::sleep;
   void sleep(unsigned milliseconds) override {
     m_hands.sleep(milliseconds);
     const auto now = m_hands.now();

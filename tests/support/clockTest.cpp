@@ -107,6 +107,44 @@ TEST(ManualClock, AWorkerMaySleepOnItWhileAnotherThreadReads) {
   EXPECT_EQ(clock.now().seconds, 1);
 }
 
+TEST(WakeUp, EndsASleepThatIsUnderWay) {
+  using Clock = std::chrono::steady_clock;
+  xplWakeUp wakeUp;
+  std::thread sleeper([&wakeUp] { xplClock::sleep(60'000, wakeUp); });
+  const auto start = Clock::now();
+  wakeUp.ring();
+  sleeper.join();
+  EXPECT_LT(Clock::now() - start, std::chrono::seconds(30));
+}
+
+TEST(WakeUp, RungBeforehandItEndsEverySleepAtOnce) {
+  using Clock = std::chrono::steady_clock;
+  xplWakeUp wakeUp;
+  wakeUp.ring();
+  const auto start = Clock::now();
+  xplClock::sleep(60'000, wakeUp);
+  xplClock::sleep(60'000, wakeUp);
+  EXPECT_LT(Clock::now() - start, std::chrono::seconds(30));
+}
+
+TEST(WakeUp, WhatIsNotWokenSleepsItsTime) {
+  using Clock = std::chrono::steady_clock;
+  xplWakeUp wakeUp;
+  const auto start = Clock::now();
+  xplClock::sleep(30, wakeUp);
+  EXPECT_GE(Clock::now() - start, std::chrono::milliseconds(29));
+}
+
+TEST(WakeUp, ASetClockGoesItsWholeStep) {
+  xplManualClock clock({0, 0});
+  const xplClock::Override override(clock);
+  xplWakeUp wakeUp;
+  wakeUp.ring();
+  xplClock::sleep(1'500, wakeUp);
+  EXPECT_EQ(clock.now().seconds, 1);
+  EXPECT_EQ(clock.now().microseconds, 500'000);
+}
+
 TEST_P(LocalTimeOfYear, IsWithinADayOfUniversalTimeAndHasTheRightWeekday) {
   const auto local = xplClock::localTime(GetParam());
   ASSERT_TRUE(local.has_value());
