@@ -3,9 +3,10 @@
 
 #include <string>
 
-// In the form that a link control takes: paragraphs parted by "\n\n", and one link as <a href="…">…</a>.
-// settingsFile: the full path that the text names.
-std::string aboutText(const std::string& settingsFile);
+// Paragraphs parted by "\n\n", with one link as <a>…</a>, which says no address: not every link control takes
+// one. settingsFile: the full path that the text ends with. lineBreak: what stands between the lines of a
+// paragraph, of at most about 50 letters: "\n", or " " where the control breaks lines at blanks by itself.
+std::string aboutText(const std::string& settingsFile, const std::string& lineBreak);
 
 // What the link leads to.
 std::string aboutAddress();

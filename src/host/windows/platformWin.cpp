@@ -3,7 +3,9 @@
 
 #include "host/platform.h"
 #include "host/programVersion.h"
+#include "host/sheet/soundPreview.h"
 #include "host/sheet/windows/propertySheet.h"
+#include "services/platform.h"
 
 namespace {
 
@@ -57,7 +59,8 @@ bool xplEnumerateMonitors(xplWindowHandle, std::vector<xplRect<int>>& monitors) 
 }
 
 void xplShowSettings(xplWindowHandle parent) {
-  SettingsSheet sheet;
+  cSoundPlayer player(xplMakeSoundOutput());
+  SettingsSheet sheet(xplUserSettings(), soundPreview(player));
   if (!showPropertySheet(parent, sheet)) {
     const std::string text = "The settings sheet could not be shown. The settings are in this file:\n" +
                              xplUserSettings().filename();

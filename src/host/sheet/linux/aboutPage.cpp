@@ -18,5 +18,7 @@ AboutPage::AboutPage() {
 
 void AboutPage::open() {
   const QString file = QString::fromStdString(xplUserSettings().filename()).toHtmlEscaped();
-  setText(QString::fromStdString(aboutText(file.toStdString())).replace("\n", "<br>"));
+  const QString link = "<a href=\"" + QString::fromStdString(aboutAddress()) + "\">";
+  setText(
+      QString::fromStdString(aboutText(file.toStdString(), " ")).replace("<a>", link).replace("\n", "<br>"));
 }

@@ -19,6 +19,10 @@
 
 namespace {
 
+// The link control may break lines in the middle of words, and may measure one a little too short, which then
+// takes from the blank at its end.
+constexpr char aboutLineBreak[] = " \n";
+
 SettingsSheet& sheetOf(HWND dialog) {
   return *reinterpret_cast<SettingsSheet*>(GetWindowLongPtrA(dialog, DWLP_USER));
 }
@@ -45,7 +49,8 @@ void initialize(HWND dialog, int page, SettingsSheet& sheet) {
   if (page == messagesPage) {
     initializeMessagesPage(dialog, sheet.messages());
   } else if (page == aboutPage) {
-    SetDlgItemTextA(dialog, controlIds::about, aboutText(xplUserSettings().filename()).c_str());
+    SetDlgItemTextA(dialog, controlIds::about,
+                    aboutText(xplUserSettings().filename(), aboutLineBreak).c_str());
   }
 }
 

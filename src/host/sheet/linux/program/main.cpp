@@ -9,6 +9,8 @@
 
 #include "host/programVersion.h"
 #include "host/sheet/linux/settingsDialog.h"
+#include "host/sheet/soundPreview.h"
+#include "services/platform.h"
 #include "support/log.h"
 
 namespace {
@@ -44,7 +46,8 @@ int showSettings(int& argc, char** argv) {
   const QApplication application(argc, argv);
   QApplication::setApplicationDisplayName("");
   QApplication::setDesktopFileName(programFile);
-  SettingsSheet sheet;
+  cSoundPlayer player(xplMakeSoundOutput());
+  SettingsSheet sheet(xplUserSettings(), soundPreview(player));
   showSettingsDialog(sheet);
   return EXIT_SUCCESS;
 }
