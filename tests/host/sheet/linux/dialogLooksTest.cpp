@@ -10,6 +10,7 @@
 #include <gmock/gmock.h>
 
 #include "host/sheet/aboutText.h"
+#include "host/sheet/linux/desktopColours.h"
 #include "host/sheet/linux/dialogFixture.h"
 #include "support/fileSystem.h"
 
@@ -117,7 +118,7 @@ TEST_F(DialogTest, AllTabsAreInSight) {
 // No colour is the dialog's own, so that it is as dark as the desktop.
 TEST_F(DialogTest, IsDarkOnADarkDesktop) {
   const QPalette before = QApplication::palette();
-  QApplication::setPalette(QPalette(QColor(45, 45, 45), QColor(35, 35, 35)));
+  QApplication::setPalette(darkPalette());
   for (int position = 0; position < pageCount; ++position) {
     show(position);
     const QImage picture = dialog->grab().toImage();

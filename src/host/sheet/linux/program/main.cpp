@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "host/programVersion.h"
+#include "host/sheet/linux/desktopColours.h"
 #include "host/sheet/linux/settingsDialog.h"
 #include "host/sheet/soundPreview.h"
 #include "services/platform.h"
@@ -46,6 +47,7 @@ int showSettings(int& argc, char** argv) {
   const QApplication application(argc, argv);
   QApplication::setApplicationDisplayName("");
   QApplication::setDesktopFileName(programFile);
+  followDesktopColours();
   cSoundPlayer player(xplMakeSoundOutput());
   SettingsSheet sheet(xplUserSettings(), soundPreview(player));
   showSettingsDialog(sheet);
