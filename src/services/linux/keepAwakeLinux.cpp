@@ -14,8 +14,6 @@
 
 namespace {
 
-constexpr std::uint64_t microsecondsPerMillisecond = 1000;
-
 std::string messageOf(int errorNumber) {
   return std::generic_category().message(errorNumber < 0 ? -errorNumber : errorNumber);
 }
@@ -26,7 +24,7 @@ std::unique_ptr<xpliKeepAwake> xplMakeKeepAwake() {
   return std::make_unique<KeepAwakeLinux>();
 }
 
-KeepAwakeLinux::KeepAwakeLinux() = default;
+KeepAwakeLinux::KeepAwakeLinux(std::chrono::milliseconds answerTimeout) : m_answerTimeout(answerTimeout) {}
 KeepAwakeLinux::~KeepAwakeLinux() = default;
 
 bool KeepAwakeLinux::request() {
@@ -44,6 +42,10 @@ bool KeepAwakeLinux::request() {
 bool KeepAwakeLinux::wasRefused() {
   if (m_state == State::asked) {
     process();
+  }
+  if (m_state == State::asked && std::chrono::steady_clock::now() - m_askedAt >= m_answerTimeout) {
+    m_bus.reset();
+    refuse("no answer");
   }
   if (m_state != State::refused) {
     return false;
@@ -64,10 +66,8 @@ bool KeepAwakeLinux::ask() {
   int result = sd_bus_open_system_with_description(&opened, "lunaria");
   if (result >= 0) {
     m_bus.reset(opened);
-    result = sd_bus_set_method_call_timeout(opened, answerTimeout * microsecondsPerMillisecond);
-  }
-  if (result >= 0) {
     m_state = State::asked;
+    m_askedAt = std::chrono::steady_clock::now();
     result = sd_bus_call_method_async(opened, nullptr, "org.freedesktop.login1", "/org/freedesktop/login1",
                                       "org.freedesktop.login1.Manager", "Inhibit", answered, this, "ssss",
                                       "idle:sleep", "Lunaria", "The screen saver keeps the computer awake",
@@ -81,10 +81,11 @@ bool KeepAwakeLinux::ask() {
 
 void KeepAwakeLinux::waitForAnswer() {
   using Clock = std::chrono::steady_clock;
-  const auto end = Clock::now() + std::chrono::milliseconds(longestWait);
+  const auto end = m_askedAt + longestWait;
   for (process(); m_state == State::asked; process()) {
     const auto left = std::chrono::duration_cast<std::chrono::microseconds>(end - Clock::now()).count();
     if (left <= 0) {
+      logInfo().add("sleep is asked to be prevented: the answer is still to come");
       return;
     }
     const int result = sd_bus_wait(m_bus.get(), static_cast<std::uint64_t>(left));

@@ -1,6 +1,7 @@
 // Keeps the computer awake on Linux: an inhibitor of logind, over the system bus.
 #pragma once
 
+#include <chrono>
 #include <memory>
 #include <optional>
 #include <string>
@@ -12,7 +13,8 @@
 
 class KeepAwakeLinux : public xpliKeepAwake {
  public:
-  KeepAwakeLinux();
+  // answerTimeout: when an answer that has not come counts as a refusal.
+  explicit KeepAwakeLinux(std::chrono::milliseconds answerTimeout = std::chrono::seconds(25));
   ~KeepAwakeLinux() override;
 
   // Waits for the answer a moment, and lets it come later where it takes longer.
@@ -21,10 +23,8 @@ class KeepAwakeLinux : public xpliKeepAwake {
   // Closes the descriptor that logind gave; the computer may sleep from then on.
   void release() override;
 
-  // The longest that request() waits, in milliseconds: no frame shall be late for it.
-  static constexpr unsigned longestWait = 60;
-  // When an answer that has not come counts as a refusal, in milliseconds.
-  static constexpr unsigned answerTimeout = 25'000;
+  // The longest that request() waits: no frame shall be late for it.
+  static constexpr std::chrono::milliseconds longestWait{60};
 
  private:
   struct CloseBus {
@@ -40,6 +40,8 @@ class KeepAwakeLinux : public xpliKeepAwake {
   void process();
   void refuse(const std::string& reason);
 
+  std::chrono::milliseconds m_answerTimeout;
+  std::chrono::steady_clock::time_point m_askedAt;
   Bus m_bus;
   State m_state = State::idle;
   std::optional<OpenFile> m_inhibitor;  // held: the computer stays awake
