@@ -6,7 +6,7 @@ build_packages=(g++ cmake ninja-build pkg-config libxcb1-dev libxcb-shm0-dev lib
   qt6-base-dev)
 test_packages=(googletest libbenchmark-dev g++-mingw-w64-x86-64-posix wine wine64 xvfb xdotool x11-utils
   x11-xserver-utils imagemagick fonts-dejavu-core clang-format clang-tidy procps tzdata
-  dbus-daemon python3-dbusmock)
+  dbus-daemon python3-dbusmock desktop-file-utils)
 
 # missing_packages PACKAGE...: prints those that are not installed.
 missing_packages() {

@@ -37,6 +37,9 @@ same "no display: one line" 1 "$(wc -l <"$work/err")"
 DISPLAY=:987 refused "a display that is not there" "cannot show the settings"
 check "the saver itself carries no toolkit" test -z "$(ldd "$lunaria" | grep -i qt)"
 
+check "the launcher is a valid one" desktop-file-validate \
+  "$(dirname "$0")/../../../packaging/linux/lunaria-configure.desktop"
+
 start_display 1280x800x24
 check "the sheet opens" start_sheet "$lunaria" --configure
 type_keys Escape
