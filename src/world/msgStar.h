@@ -7,7 +7,7 @@ class cMsgStar : public cStarSpriteWithPixels {
  public:
   // As cStarSpriteWithPixels; named "msg star". It begins invisible.
   cMsgStar(float averageTwinkleDuration, float brightness, float amplitude, float averageRestDuration);
-  virtual ~cMsgStar() = default;
+  ~cMsgStar() override = default;
 
   // Nothing while it is invisible: no flight, no twinkling.
   void update(float elapsedSec) override;
