@@ -71,7 +71,7 @@ void noctisScreensaver::startStartupEffect(std::int32_t monitorId) {
   if (!m_startupEffect && m_appSettings.startupEffect.read() == oldTvEffect) {
     m_startupEffect = std::make_unique<cWindowTransitionEffect_OldTV>();
   }
-  if (m_startupEffect) {
+  if (m_startupEffect && !m_startupEffect->finished()) {
     m_startupEffect->initWithWindow(window(), monitorId);
   }
 }

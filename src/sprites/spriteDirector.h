@@ -15,6 +15,8 @@ class TorvSpriteDirector {
   virtual void setRenderWindowAll(xplWindow* window);
 
   void addSprite(TorvSprite& sprite) { m_sprites.push_back(&sprite); }
+  // In drawing order, back to front.
+  const std::vector<TorvSprite*>& sprites() const { return m_sprites; }
 
  private:
   std::vector<TorvSprite*> m_sprites;

@@ -12,14 +12,12 @@
 
 namespace {
 
-constexpr int imageWidth = 300;    // pixels
-constexpr int imageHeight = 150;   // pixels
-constexpr int darkestPoint = 150;  // a pixel with a mean above this becomes a point
+constexpr int imageWidth = 300;     // pixels
+constexpr int imageHeight = 150;    // pixels
+constexpr int brightestDark = 150;  // a pixel with a mean above this becomes a point
 constexpr float largestScale = 12.0F;
 
-constexpr int letterSize = 10;  // points
-// The height of a line of such letters at 96 dots per inch. Where a display has more dots, letters of as many
-// points have more pixels than there are stars for, so fewer points are taken there.
+// The height of a line of such letters at 96 dots per inch.
 constexpr int tallestLine = 16;  // pixels
 
 // The rectangle of the bright pixels; without any its edges are the wrong way round.
@@ -39,27 +37,25 @@ struct Bounds {
 
 // Without antialiasing: every pixel of a letter is then fully lit or dark, strokes keep their width, and the
 // same font gives the same points everywhere.
-xplTextDrawingInfo letters(xplImage& image) {
+xplTextDrawingInfo letterStyle(xplImage& image) {
   xplTextDrawingInfo info;
   info.color = xplColor(255, 255, 255);
   info.fontName = "Courier New";
   info.alignment = xplTextDrawingInfo::alignCentered;
   info.nonAntialiased = 1;
-  for (int points = letterSize; points > 0; --points) {
+  info.fontSize = messageLetterSize([&](int points) {
     info.fontSize = points;
     int lineHeight = 0;
     image.getTextSize("M", info, nullptr, &lineHeight);
-    if (lineHeight <= tallestLine) {
-      break;
-    }
-  }
+    return lineHeight;
+  });
   return info;
 }
 
 // Lines are centred under each other; the longest begins at the image's left edge, so that a text that is too
 // wide keeps its beginning.
 void drawLetters(xplImage& image, const std::string& text) {
-  const xplTextDrawingInfo info = letters(image);
+  const xplTextDrawingInfo info = letterStyle(image);
   int width = 0;
   image.getTextSize(text, info, &width, nullptr);
   image.drawText(width / 2, 0, text, info);
@@ -71,7 +67,7 @@ Bounds collectBrightPixels(xplImage& image, std::vector<sTargetPoint>& points) {
   for (int y = 0; y < image.getHeight(); ++y) {
     for (int x = 0; x < image.getWidth(); ++x) {
       const xplColor color = image.getPixel(x, y);
-      if ((color.red() + color.green() + color.blue()) / 3 > darkestPoint) {
+      if ((color.red() + color.green() + color.blue()) / 3 > brightestDark) {
         points.push_back({x, y});
         bounds.include(x, y);
       }
@@ -121,6 +117,14 @@ void placePoints(const Bounds& bounds, const xplRect<int>& screenRect, std::vect
 }
 
 }  // namespace
+
+int messageLetterSize(const std::function<int(int)>& lineHeightOf) {
+  int points = messageLetterPoints;
+  while (points > 1 && lineHeightOf(points) > tallestLine) {
+    --points;
+  }
+  return points;
+}
 
 void projectMessage(const std::string& text, const xplRect<int>& screenRect,
                     std::vector<sTargetPoint>& points) {

@@ -79,6 +79,8 @@ void TnoctisWorld::createMsgStars() {
 void TnoctisWorld::takeOverWindow() {
   m_backgroundColor = xplColor::fromValue(0x00008BFF).scaledBy(0.1F);
   m_window->backgroundColor.push(m_backgroundColor);
+  // Deliberate: in its own coordinates, wherever it lies on the screen; all that is drawn is placed so. The
+  // monitors' rectangles stay in screen coordinates.
   m_windowRect = xplRect<int>(0, 0, m_window->getWidth(), m_window->getHeight());
   if (m_monitorList->empty()) {
     logError().add("#4714: m_MonitorList size <1");
@@ -127,7 +129,7 @@ void TnoctisWorld::applyNextMessage() {
     m_msgStarDirector.chooseRandomMessage();
   }
   const sMessage* message = m_msgStarDirector.getMsg();
-  xplAssert(message, "#8662: msgStarDirector.getMsg() returned NULL", "noctisWorld");
+  xplAssert(message, "m && _T(\"#8662: msgStarDirector.getMsg() returned NULL\")", "noctisWorld");
   if (message == nullptr) {
     return;
   }

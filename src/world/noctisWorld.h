@@ -55,6 +55,7 @@ class TnoctisWorld {
   const std::string& containerFolder() const { return m_containerFolder; }
   const xplRect<int>& windowRect() const { return m_windowRect; }
   const xplRect<int>& mainMonitorRect() const { return m_mainMonitorRect; }
+  const TorvSpriteDirector& spriteDirector() const { return m_spriteDirector; }
   const cMoonInfoSprite& moonInfoLabel() const { return m_moonInfoLabel; }
   const cQuotesSprite& quotesLabel() const { return m_quotesLabel; }
   const TorvSpriteText& bottomLine() const { return m_bottomLine; }

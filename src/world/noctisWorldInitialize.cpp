@@ -29,7 +29,7 @@ void TnoctisWorld::initializeWorld() {
   initializeStars();
   initializeMsgStars();
   initializeMoon();
-  // Kept out of the director: whoever measures the program enables it and adds it there.
+  // Out of sight, and so not in the director either; who measures the program adds it there for the while.
   m_frameRateLabel.disable();
   guarded("initializeBottomLine() exception", [this] { initializeBottomLine(); });
   guarded("initializeMoonInfoLabel() exception", [this] { initializeMoonInfoLabel(); });

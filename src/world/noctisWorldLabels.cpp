@@ -13,7 +13,7 @@ constexpr float moonLeft = 0.7F;     // of the window's width
 constexpr float moonTop = 0.12F;     // of the window's height
 constexpr float moonSpeed = 0.1F;    // pixels per second
 
-constexpr int previewLabelShare = 3;  // the label's letters are that many times smaller in the preview
+constexpr int previewLabelDivisor = 3;  // of the size of the label's letters in the preview
 
 xplRect<int> intersection(const xplRect<int>& a, const xplRect<int>& b) {
   xplRect<int> common;
@@ -85,7 +85,7 @@ void TnoctisWorld::initializeMoonInfoLabel() {
   m_spriteDirector.addSprite(m_moonInfoLabel);
   if (m_monitorId == previewMonitorId) {
     m_moonInfoLabel.style.useWindowFontSize = false;
-    m_moonInfoLabel.style.fontSize /= previewLabelShare;
+    m_moonInfoLabel.style.fontSize /= previewLabelDivisor;
   }
 }
 

@@ -5,8 +5,23 @@
 #include "support/log.h"
 #include "support/random.h"
 
+namespace {
+
+// The log names the condition as it has always been written there, which is not how it is laid out here.
+void checkFlight(float t1, float t2) {
+  const bool isWithinTheAnimation = (t1 < t2) && (t2 <= cStarTransitionEffectBase::m_animationDuration_inSec);
+  if (xplAssertionsReport && !isWithinTheAnimation) {
+    xplReportFailedAssertion("(t1<t2) && (t2<=m_animationDuration_inSec)", "#9682: startTransition_impl()",
+                             "cStarTransition", __LINE__);
+  }
+}
+
+}  // namespace
+
 void cStarTransitionEffectBase::startTransition(std::span<const sTargetPoint> points) {
   xplAssert(m_stars.data() != nullptr, "#8652: startTransition() particlePtrList is null", "cStarTransition");
+  // Deliberate: a text of more points than stars loses those at its lower right; the stars are not spread
+  // thinner over all of them. The letters of a long text would fade, and every formation would change.
   for (std::size_t i = 0; i < m_stars.size(); ++i) {
     cMsgStar& star = *m_stars[i];
     if (i < points.size()) {
@@ -16,12 +31,13 @@ void cStarTransitionEffectBase::startTransition(std::span<const sTargetPoint> po
     star.visibleAfterArrival = i < points.size();
   }
   sortByUsage();
-  for (const Usage usage : {YY, YN, NY, NN}) {
+  for (const Usage usage : {su_YY, su_YN, su_NY, su_NN}) {
     applyUsage(m_starsByUsage[usage], usage);
   }
-  logInfo().addf("number of message star by usage: su_YY=%i, su_YN=%i, su_NY=%i, su_NN=%i",
-                 static_cast<int>(m_starsByUsage[YY].size()), static_cast<int>(m_starsByUsage[YN].size()),
-                 static_cast<int>(m_starsByUsage[NY].size()), static_cast<int>(m_starsByUsage[NN].size()));
+  logInfo().addf(
+      "number of message star by usage: su_YY=%i, su_YN=%i, su_NY=%i, su_NN=%i",
+      static_cast<int>(m_starsByUsage[su_YY].size()), static_cast<int>(m_starsByUsage[su_YN].size()),
+      static_cast<int>(m_starsByUsage[su_NY].size()), static_cast<int>(m_starsByUsage[su_NN].size()));
   scheduleStars(points.size());
   m_elapsed = 0.0F;
   m_isRunning = true;
@@ -33,8 +49,8 @@ void cStarTransitionEffectBase::sortByUsage() {
     stars.clear();
   }
   for (const auto& star : m_stars) {
-    const Usage usage =
-        star->isVisible ? (star->visibleAfterArrival ? YY : YN) : (star->visibleAfterArrival ? NY : NN);
+    const Usage usage = star->isVisible ? (star->visibleAfterArrival ? su_YY : su_YN)
+                                        : (star->visibleAfterArrival ? su_NY : su_NN);
     m_starsByUsage[usage].push_back(star.get());
   }
 }
@@ -52,8 +68,7 @@ void cStarTransitionEffectBase::scheduleStars(std::size_t pointCount) {
     const float t1 = startShare * 0.5F * m_animationDuration_inSec;
     const float lengthShare = xplRandom::unit();
     const float t2 = (0.4F + 0.6F * lengthShare) * (m_animationDuration_inSec - t1) + t1;
-    xplAssert((t1 < t2) && (t2 <= m_animationDuration_inSec), "#9682: startTransition_impl()",
-              "cStarTransition");
+    checkFlight(t1, t2);
     star.schedule(t1, t2, i < pointCount);
   }
 }

@@ -25,7 +25,7 @@ class cStarTransitionEffectBase {
   static constexpr float m_animationDuration_inSec = 20.0F;
 
   // What happens to a star: visible now (Y or N), visible afterwards (Y or N).
-  enum Usage { YY = 0, YN = 1, NY = 2, NN = 3 };
+  enum Usage { su_YY = 0, su_YN = 1, su_NY = 2, su_NN = 3 };
   using Stars = std::span<cMsgStar* const>;
 
   // Copies the rectangle (window coordinates) and borrows the stars, which must outlive the effect.

@@ -11,11 +11,11 @@ constexpr int cornerOutside = -3;  // pixels from the top left corner, in both d
 constexpr int aboveWindow = 5;     // pixels
 constexpr int belowWindow = 3;     // pixels
 
-void putIntoCorner(cMsgStar& star, bool comesBack) {
+void putIntoCorner(cMsgStar& star, bool shownAfterwards) {
   star.x = static_cast<float>(cornerOutside);
   star.y = static_cast<float>(cornerOutside);
   star.isVisible = false;
-  star.visibleAfterArrival = comesBack;
+  star.visibleAfterArrival = shownAfterwards;
 }
 
 // A sideways drift in [-50, 49] pixels; one random draw.
@@ -28,23 +28,23 @@ int drift() {
 
 void cStarTransitionEffect_Simple::applyUsage(Stars stars, Usage usage) {
   for (cMsgStar* star : stars) {
-    if (usage == YN) {
+    if (usage == su_YN) {
       star->targetX = cornerOutside;
       star->targetY = cornerOutside;
       star->visibleAfterArrival = false;
-    } else if (usage != YY) {
-      putIntoCorner(*star, usage == NY);
+    } else if (usage != su_YY) {
+      putIntoCorner(*star, usage == su_NY);
     }
   }
 }
 
 void cStarTransitionEffect_Fall::applyUsage(Stars stars, Usage usage) {
   for (cMsgStar* star : stars) {
-    if (usage == YN) {
+    if (usage == su_YN) {
       star->targetX = wholePixel(star->x) + drift();
       star->targetY = screenRect().getBottom() + belowWindow;
       star->visibleAfterArrival = false;
-    } else if (usage == NY) {
+    } else if (usage == su_NY) {
       star->x = static_cast<float>(star->targetX + drift());
       star->y = static_cast<float>(screenRect().top - aboveWindow);
       star->visibleAfterArrival = true;

@@ -88,12 +88,15 @@ TEST_F(MessagesInTheWorld, WaitForALongBottomLine) {
   runFor(*world, 39.0F);
   EXPECT_EQ(1, applied()) << "1081 pixels at 54 a second take 20 s, the line's own length more";
   double rightEdge = world->bottomLine().getRight();
+  float leftEdge = 0.0F;
   for (int i = 0; i < 1000 && applied() == 1; ++i) {
     rightEdge = world->bottomLine().getRight();
+    leftEdge = world->bottomLine().x;
     world->update(tick);
   }
   EXPECT_EQ(2, applied());
   EXPECT_LT(rightEdge, 54.0 * 0.041) << "one step before";
+  EXPECT_LT(leftEdge, -100.0F) << "the whole line is through";
 }
 
 TEST_F(MessagesInTheWorld, OfOneEntryComeAgain) {
@@ -105,7 +108,45 @@ TEST_F(MessagesInTheWorld, OfOneEntryComeAgain) {
   EXPECT_EQ(0, world->bottomLine().disabledCount()) << "enabled once";
 }
 
-TEST_F(MessagesInTheWorld, PassAtOnceWhileTheClockOfTheirTransitionStandsAtZero) {
+TEST_F(MessagesInTheWorld, PassAtOnceWhileTheClockStandsAtZeroAndTheLineIsThrough) {
+  giveMessages({{"Moon", ""}, {"Sea", ""}});
+  const auto world = makeInitialized(320, 240);
+  world->applyNextMessage();
+  // The line flies out before it is looked at, while the transition has not begun to run.
+  world->update(100.0F);
+  EXPECT_EQ(2, applied());
+}
+
+// The order decides every frame from the first message on.
+TEST_F(MessagesInTheWorld, DrawTheirLotThenThePlaceThenTheKindThenTheFlights) {
+  giveMessages({{"Moon", ""}, {"Sea", ""}});
+  for (const std::uint32_t seed : {3U, 4U, 5U, 6U, 7U, 8U}) {
+    const auto fresh = makeInitialized();
+    xplRandom::seed(seed);
+    fresh->applyNextMessage();
+    const std::uint32_t after = xplRandom::state();
+    const std::size_t points = fresh->msgStarDirector().targetPoints().size();
+    xplRandom::seed(seed);
+    const int lot = xplRandom::next();
+    ASSERT_NE(0, lot % 20) << "choose seeds whose first message is not chosen by chance";
+    xplRandom::next();  // the column
+    xplRandom::next();  // the row
+    const float kind = xplRandom::unit();
+    if (static_cast<int>(kind * 1000.0F) % 2 == 1) {
+      for (std::size_t i = 0; i < points; ++i) {
+        xplRandom::next();  // the drift of a star that falls in
+      }
+    }
+    const float start = xplRandom::unit();
+    EXPECT_FLOAT_EQ(start * 10.0F, fresh->msgStar(0).startMovingAtTime());
+    for (std::size_t i = 1; i < 2 * points; ++i) {
+      xplRandom::next();
+    }
+    EXPECT_EQ(xplRandom::state(), after) << "seed " << seed;
+  }
+}
+
+TEST_F(MessagesInTheWorld, WaitWhileTheClockStandsAtZeroButTheLineIsNotThrough) {
   giveMessages({{"Moon", ""}, {"Sea", ""}});
   const auto world = makeInitialized(320, 240);
   world->update(0.0F);

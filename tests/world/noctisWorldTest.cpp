@@ -121,9 +121,11 @@ TEST_F(World, WithoutMessagesKeepsTheBottomLineDisabled) {
 }
 
 TEST_F(World, InALowWindowGivesTheBottomLineTheSmallestText) {
-  const auto world = makeWorld(640, 719);
-  world->initializeWorld();
-  EXPECT_EQ(8, world->bottomLine().style.fontSize);
+  for (const int height : {719, 639, 100, 1}) {
+    const auto world = makeWorld(640, height);
+    world->initializeWorld();
+    EXPECT_EQ(8, world->bottomLine().style.fontSize) << height;
+  }
 }
 
 TEST_F(World, KeepsTheBottomLine22PixelsAboveTheEdgeOfALowWindow) {
@@ -177,6 +179,26 @@ TEST_F(World, LogsItsBuildingAndItsEndInThisOrder) {
   };
   EXPECT_EQ(expected,
             std::vector<std::string>(entries.begin() + static_cast<std::ptrdiff_t>(before), entries.end()));
+}
+
+TEST_F(World, DrawsFromBackToFrontInThisOrder) {
+  xplUserSettings().set("showQuotes_Wisdom", true);
+  const auto world = makeWorld();
+  world->initializeWorld();
+  std::vector<std::string> runs;  // a name for each run of sprites that have it
+  std::vector<std::size_t> lengths;
+  for (const TorvSprite* sprite : world->spriteDirector().sprites()) {
+    if (runs.empty() || runs.back() != sprite->name()) {
+      runs.emplace_back(sprite->name());
+      lengths.push_back(0);
+    }
+    ++lengths.back();
+  }
+  ASSERT_EQ(8U, runs.size());
+  EXPECT_EQ((std::vector<std::string>{"normal star", "msg star", "moonSprite", "bottomLine", "moonInfoLabel",
+                                      "quotesLabel", "Airplane"}),
+            std::vector<std::string>(runs.begin() + 1, runs.end()));
+  EXPECT_EQ((std::vector<std::size_t>{1, 200, 1500, 1, 1, 1, 1, 3}), lengths);
 }
 
 TEST_F(World, DrawsTheStarsOverTheBackground) {
@@ -254,14 +276,19 @@ TEST_F(World, DrawsTheAirplanesOverTheStars) {
   }
 }
 
+// Long enough for two messages.
 TEST_F(World, SurvivesWindowsOfAllSizes) {
-  for (const auto& [width, height] : std::vector<std::pair<int, int>>{{1, 1}, {1, 200}, {64, 48}, {900, 2}}) {
+  for (const auto& [width, height] :
+       std::vector<std::pair<int, int>>{{1, 1}, {1, 2000}, {64, 48}, {900, 2}}) {
     const auto world = makeWorld(width, height);
     world->initializeWorld();
-    for (int i = 0; i < 30; ++i) {
+    for (int i = 0; i < 60 * 25; ++i) {
       world->update(0.04F);
-      world->draw();
+      if (i % 50 == 0) {
+        world->draw();
+      }
     }
+    EXPECT_NE(nullptr, world->msgStarDirector().transition()) << width << " x " << height;
   }
 }
 

@@ -1,5 +1,6 @@
 // How message stars are sorted, sent and scheduled when a message follows another.
 #include <algorithm>
+#include <map>
 #include <vector>
 
 #include "support/assertion.h"
@@ -118,6 +119,39 @@ TEST_F(StarTransition, LetsTheSurplusFallOutBelowTheWindow) {
   EXPECT_EQ(4, countVisible());
 }
 
+TEST_F(StarTransition, LetsStarsDriftByMinus50To49PixelsOverTenThousandDraws) {
+  xplRandom::seed(2);
+  std::map<int, int> drifts;
+  for (int round = 0; round < 7; ++round) {
+    for (const auto& star : stars) {
+      star->isVisible = false;
+    }
+    start<cStarTransitionEffect_Fall>(1500);
+    for (const auto& star : stars) {
+      ++drifts[static_cast<int>(star->x) - star->targetX];
+    }
+  }
+  EXPECT_EQ(100U, drifts.size()) << "each whole pixel";
+  EXPECT_EQ(-50, drifts.begin()->first);
+  EXPECT_EQ(49, drifts.rbegin()->first);
+  for (const auto& [drift, count] : drifts) {
+    EXPECT_NEAR(105, count, 55) << drift;
+  }
+}
+
+TEST_F(StarTransition, DrawsADriftForEachStarThatLeaves) {
+  start<cStarTransitionEffect_Simple>(3);
+  runFor(21);
+  xplRandom::seed(9);
+  start<cStarTransitionEffect_Fall>(0);
+  xplRandom::seed(9);
+  for (int i = 0; i < 3; ++i) {
+    const float share = xplRandom::unit();
+    EXPECT_EQ(100 + 10 * i - 50 + static_cast<int>(share * 100.0F),
+              stars[static_cast<std::size_t>(i)]->targetX);
+  }
+}
+
 TEST_F(StarTransition, ToMorePointsKeepsThoseThatShowAndBringsTheRest) {
   start<cStarTransitionEffect_Simple>(3);
   runFor(21);
@@ -135,16 +169,19 @@ TEST_F(StarTransition, ToNoPointsSendsAllAway) {
   EXPECT_EQ(0, countVisible());
 }
 
-TEST_F(StarTransition, GivesOnlyAsManyStarsAsThereAre) {
+TEST_F(StarTransition, KeptTheLowerRightOfALongTextIsCutOff) {
   start<cStarTransitionEffect_Simple>(4000);
   EXPECT_EQ(1500, countVisible());
-  EXPECT_EQ(100 + 14990, stars[1499]->targetX);
+  EXPECT_EQ(100, stars[0]->targetX);
+  EXPECT_EQ(100 + 14990, stars[1499]->targetX) << "the first points, all of them";
 }
 
 TEST_F(StarTransition, SchedulesEveryFlightWithinItsLimitsOverTenThousandStars) {
   xplRandom::seed(4);
   double sumOfStarts = 0.0;
   int flights = 0;
+  double sumOfShares = 0.0;
+  float smallestShare = 1.0F;
   float latestStart = 0.0F;
   float latestEnd = 0.0F;
   for (int round = 0; round < 7; ++round) {
@@ -157,6 +194,9 @@ TEST_F(StarTransition, SchedulesEveryFlightWithinItsLimitsOverTenThousandStars) 
       ASSERT_GE(t2, t1 + 0.399F * (20.0F - t1));
       ASSERT_LE(t2, 20.0F);
       sumOfStarts += static_cast<double>(t1);
+      const float share = (t2 - t1) / (20.0F - t1);
+      sumOfShares += static_cast<double>(share);
+      smallestShare = std::min(smallestShare, share);
       latestStart = std::max(latestStart, t1);
       latestEnd = std::max(latestEnd, t2);
       ++flights;
@@ -164,6 +204,8 @@ TEST_F(StarTransition, SchedulesEveryFlightWithinItsLimitsOverTenThousandStars) 
   }
   EXPECT_EQ(10500, flights);
   EXPECT_NEAR(5.0, sumOfStarts / flights, 0.1);
+  EXPECT_NEAR(0.7, sumOfShares / flights, 0.01);
+  EXPECT_LT(smallestShare, 0.401F);
   EXPECT_GT(latestStart, 9.99F);
   EXPECT_GT(latestEnd, 19.9F);
 }
