@@ -10,6 +10,7 @@
 // alone.
 struct xplTextAttributes {
   // Any value but these two means left.
+  static constexpr int alignmentLeft = 1;
   static constexpr int alignmentRight = 2;
   static constexpr int alignmentCentered = 3;
 

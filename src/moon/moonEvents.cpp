@@ -19,6 +19,7 @@ std::optional<std::int64_t> momentOf(const MoonTableEntry& entry) {
   time.tm_mon = entry.month - 1;
   time.tm_year = entry.year - 1900;
   time.tm_isdst = -1;  // the library decides
+  // The entry is in UTC, and is read here as local time; the correction makes up for it.
   const auto misread = xplClock::momentOfLocalTime(time);
   return misread ? std::optional(*misread + MoonTimeCorrection::seconds()) : std::nullopt;
 }

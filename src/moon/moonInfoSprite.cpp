@@ -14,7 +14,7 @@ namespace {
 // other moment.
 std::string dateOf(std::int64_t moment) {
   const auto local = xplClock::localTime(moment);
-  return local ? timeStruct2String(&*local) : std::string();
+  return timeStruct2String(local ? &*local : nullptr);
 }
 
 const char* nameOfFullMoonAt(std::int64_t moment) {

@@ -55,6 +55,8 @@ bool cMoonSprite::loadMoonImage(int size) {
   return true;
 }
 
+// Deliberate: the moon is lit as it is seen from the north of the earth, wherever the user has chosen to be
+// ("fromSouthHemisphere"). The picture's seas would have to be turned with it.
 void cMoonSprite::illuminate() {
   const logTimeCountrer block("cMoonSprite.illuminate() classic");
   if (image() == nullptr) {

@@ -26,8 +26,8 @@ const char* intToMonth(int index) {
 std::string timeStruct2String(const std::tm* time) {
   if (time == nullptr) {
     if (xplAssertionsReport) {
-      xplReportFailedAssertion("time != nullptr", "(a != NULL) && _T(\"#9863: timeStruct2String(NULL)\")",
-                               "cMoonInfo", reportedLine);
+      xplReportFailedAssertion("(a != NULL) && _T(\"#9863: timeStruct2String(NULL)\")",
+                               "#9863: timeStruct2String(NULL)", "cMoonInfo", reportedLine);
     }
     return {};
   }

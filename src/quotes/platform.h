@@ -6,8 +6,8 @@
 
 namespace quotesPlatform {
 
-// The face that quotes are set in: one with serifs that the platform is sure to have, or to replace by one of
-// the same widths. A literal of at most 15 characters, so that no string needs memory to copy it in each
+// The face that quotes are set in: one with serifs that the platform is sure to have, or to replace by a like
+// one. A literal of at most 15 characters, so that no string needs memory to copy it in each
 // frame.
 const char* faceName();
 

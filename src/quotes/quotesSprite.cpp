@@ -95,10 +95,10 @@ void cQuotesSprite::selectRandomPosition() {
   const auto bottom = static_cast<float>(renderRect.getBottom());
   xplRect<float>& rect = m_paragraphRect;
   for (int i = 0; i < maxTries; ++i) {
-    const float r1 = xplRandom::unit();
-    rect.left = r1 * ((right - rect.width) - renderRect.left) + renderRect.left;
-    const float r2 = xplRandom::unit();
-    rect.top = r2 * ((bottom - rect.height) - renderRect.top) + renderRect.top;
+    const float across = xplRandom::unit();
+    rect.left = across * ((right - rect.width) - renderRect.left) + renderRect.left;
+    const float down = xplRandom::unit();
+    rect.top = down * ((bottom - rect.height) - renderRect.top) + renderRect.top;
     logInfo().addf("m_renderRect.top: %i, m_renderRect.getBottom(): %i", wholePixel(renderRect.top),
                    wholePixel(renderRect.getBottom()));
     logInfo().addf("x: %i, width:%i, y:%i, height:%i", wholePixel(rect.left), wholePixel(rect.width),

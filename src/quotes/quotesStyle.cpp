@@ -12,6 +12,6 @@ TorvTextStyle quotesStyle() {
   style.useWindowFontSize = false;
   style.fontSize = 16;
   style.alignDefault = false;
-  style.alignment = 1;
+  style.alignment = xplTextAttributes::alignmentLeft;
   return style;
 }

@@ -19,8 +19,8 @@ constexpr const char* fileName = "userQuotes.txt";
 // start for minutes, and fill the disk with its log.
 constexpr std::size_t mostUserQuotes = xplVectorAsDB<sQuote>::reachable;
 
-// Keeps a text for the life of the process: quotes hold pointers to it. Never destroyed, and its elements
-// never move.
+// Keeps a text for the life of the process: quotes hold pointers to it, and are shown until the very end.
+// So the store is given up on purpose, and its elements never move.
 const char* kept(std::string text) {
   static std::deque<std::string>* const texts = std::make_unique<std::deque<std::string>>().release();
   return texts->emplace_back(std::move(text)).c_str();

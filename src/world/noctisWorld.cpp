@@ -22,7 +22,15 @@ constexpr float msgStarDimmest = 0.3F;
 constexpr float msgStarBrightest = 0.5F;
 
 constexpr float messageDuration = 30.0F;  // seconds from one message's start until the next may come
-constexpr int randomChoiceOdds = 20;      // one message in so many is chosen at random
+// The entry names the condition as it has always been written.
+void reportMissingMessage() {
+  if (xplAssertionsReport) {
+    xplReportFailedAssertion("m && _T(\"#8662: msgStarDirector.getMsg() returned NULL\")",
+                             "#8662: msgStarDirector.getMsg() returned NULL", "noctisWorld", __LINE__);
+  }
+}
+
+constexpr int randomChoiceOdds = 20;  // one message in so many is chosen at random
 
 }  // namespace
 
@@ -129,8 +137,8 @@ void TnoctisWorld::applyNextMessage() {
     m_msgStarDirector.chooseRandomMessage();
   }
   const sMessage* message = m_msgStarDirector.getMsg();
-  xplAssert(message, "m && _T(\"#8662: msgStarDirector.getMsg() returned NULL\")", "noctisWorld");
   if (message == nullptr) {
+    reportMissingMessage();
     return;
   }
   m_msgStarDirector.project(message->message, m_windowRect);

@@ -57,7 +57,7 @@ void TnoctisWorld::initializeMoon() {
   }
   const int size = m_monitorId == previewMonitorId ? previewMoonSize : m_moonSettings.moonSize.read();
   const bool isLoaded = m_moon.loadMoonImage(size);  // says why, where not
-  placeMoon();                                       // the label hangs on it, whether it shows or not
+  placeMoon();                                       // also where it does not show: the label hangs on it
   if (isLoaded) {
     m_moon.illuminate();
     m_spriteDirector.addSprite(m_moon);
@@ -92,9 +92,10 @@ void TnoctisWorld::initializeMoonInfoLabel() {
 void TnoctisWorld::initializeQuotesLabel() {
   const cAppSettings settings;
   // Counting reads the user's file, which may be large: only where it is asked for.
+  const bool isPreview = m_monitorId == previewMonitorId;
   const std::size_t userQuotes =
-      settings.showQuotes_UserQuotes.read() ? cQuotes::countQuotes(quoteCategory::user) : 0;
-  if (m_monitorId == previewMonitorId || !settings.anyQuoteCategoryOn(userQuotes)) {
+      !isPreview && settings.showQuotes_UserQuotes.read() ? cQuotes::countQuotes(quoteCategory::user) : 0;
+  if (isPreview || !settings.anyQuoteCategoryOn(userQuotes)) {
     m_quotesLabel.disable();
     return;
   }

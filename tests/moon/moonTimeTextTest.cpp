@@ -53,8 +53,8 @@ TEST_F(MoonTimeText, OfAMonthThatIsNoneSaysSo) {
 TEST_F(MoonTimeText, KeptLineOfTheReportOfAMissingTime) {
   EXPECT_EQ("", timeStruct2String(nullptr));
   EXPECT_EQ(xplAssertionsReport ? 1 : 0,
-            countEntries("Assertion failed: time != nullptr, (a != NULL) && _T(\"#9863: "
-                         "timeStruct2String(NULL)\"), source cMoonInfo, line 38",
+            countEntries("Assertion failed: (a != NULL) && _T(\"#9863: timeStruct2String(NULL)\"), #9863: "
+                         "timeStruct2String(NULL), source cMoonInfo, line 38",
                          "ERROR"));
 }
 

@@ -130,7 +130,9 @@ TEST_F(WorldLabels, ShowNoQuotesUntilACategoryIsOn) {
 
 TEST_F(WorldLabels, NeverShowQuotesInThePreview) {
   xplUserSettings().set("showQuotes_Wisdom", true);
+  xplUserSettings().set("showQuotes_UserQuotes", true);
   EXPECT_FALSE(initializedWorld(152, 112, TnoctisWorld::previewMonitorId)->quotesLabel().isEnabled());
+  EXPECT_EQ(0, countEntriesWith("loading user quotes from file:")) << "they may be many";
 }
 
 TEST_F(WorldLabels, GiveQuotesTheWindowWithAMargin) {
