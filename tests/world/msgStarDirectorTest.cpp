@@ -10,6 +10,7 @@ namespace {
 class MsgStarDirector : public World {
  protected:
   static void giveMessages(int count) {
+    const xplSettings::Batch oneSave(xplUserSettings());
     xplUserSettings().set("messagesCount", count);
     for (int i = 1; i <= count; ++i) {
       xplUserSettings().set("message" + std::to_string(i), "m" + std::to_string(i));
