@@ -2,11 +2,8 @@
 #include "support/settings.h"
 
 #include <array>
-#include <charconv>
 #include <fstream>
-#include <locale>
 #include <memory>
-#include <sstream>
 #include <utility>
 
 #include "support/assertion.h"
@@ -47,26 +44,6 @@ std::optional<std::string> readWhole(const std::string& path) {
     content.append(piece.data(), static_cast<std::size_t>(file.gcount()));
   }
   return file.bad() ? std::nullopt : std::optional(std::move(content));
-}
-
-// The whole text as a number; nothing where it is none or out of range.
-template <class T>
-std::optional<T> parseWhole(const std::optional<std::string>& text) {
-  T value{};
-  if (!text) {
-    return std::nullopt;
-  }
-  const char* const end = text->data() + text->size();
-  const auto result = std::from_chars(text->data(), end, value);
-  return result.ec == std::errc{} && result.ptr == end ? std::optional<T>(value) : std::nullopt;
-}
-
-template <class T>
-std::string numberText(T value) {
-  std::ostringstream stream;
-  stream.imbue(std::locale::classic());
-  stream << value;
-  return stream.str();
 }
 
 std::unique_ptr<xplSettings>& userStore() {
@@ -167,22 +144,6 @@ void xplSettings::set(const std::string& key, const std::string& value) {
   }
 }
 
-void xplSettings::set(const std::string& key, bool value) {
-  set(key, std::string(value ? "yes" : "no"));
-}
-
-void xplSettings::set(const std::string& key, int value) {
-  set(key, numberText(value));
-}
-
-void xplSettings::set(const std::string& key, std::int64_t value) {
-  set(key, numberText(value));
-}
-
-void xplSettings::set(const std::string& key, double value) {
-  set(key, numberText(value));
-}
-
 xplSettings::Batch::Batch(xplSettings& store) : m_store(store), m_savedBefore(store.saveOnEveryChange) {
   m_store.saveOnEveryChange = false;
 }
@@ -215,25 +176,6 @@ bool xplSettings::changeAllOrNothing(const std::function<void()>& changes) {
 std::optional<std::string> xplSettings::get(const std::string& key) const {
   const auto found = m_values.find(key);
   return found == m_values.end() ? std::nullopt : std::optional(found->second);
-}
-
-bool xplSettings::getBool(const std::string& key, bool defaultValue) const {
-  const std::string text = get(key).value_or("");
-  if (text == "yes" || text == "true" || text == "1" || text == "on") {
-    return true;
-  }
-  if (text == "no" || text == "false" || text == "0" || text == "off") {
-    return false;
-  }
-  return defaultValue;
-}
-
-int xplSettings::getInt(const std::string& key, int defaultValue) const {
-  return parseWhole<int>(get(key)).value_or(defaultValue);
-}
-
-std::int64_t xplSettings::getInt64(const std::string& key, std::int64_t defaultValue) const {
-  return parseWhole<std::int64_t>(get(key)).value_or(defaultValue);
 }
 
 xplSettings& xplUserSettings() {
