@@ -49,6 +49,8 @@ void cTelemetryController::startThread(MakeAnalytics makeAnalytics, const std::s
         doAllSteps(make, folder);
       } catch (const std::exception& error) {
         logError().addf("Exception caught:\n%s\n%s", error.what(), "telemetry thread");
+      } catch (...) {  // the vendor's library may throw what it likes
+        logError().addf("Exception caught:%s", "telemetry thread");
       }
     });
   } catch (const std::system_error& error) {

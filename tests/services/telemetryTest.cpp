@@ -3,6 +3,7 @@
 
 #include <gmock/gmock.h>
 
+#include "services/builtInAnalytics.h"
 #include "services/telemetryFixture.h"
 #include "services/telemetryValues.h"
 #include "support/settings.h"
@@ -114,6 +115,63 @@ TEST_F(Telemetry, ALibraryThatThrowsEndsTheReportAlone) {
   record.waitFor("make");
   controller.reset();
   EXPECT_EQ(countEntries("Exception caught:\nbroken\ntelemetry thread", "ERROR"), 1);
+}
+
+TEST_F(Telemetry, ALibraryThatThrowsAnythingEndsTheReportAlone) {
+  auto controller = std::make_unique<cTelemetryController>([&]() -> std::unique_ptr<xpliAnalytics> {
+    record.add("make");
+    throw 42;
+  });
+  gate.open();
+  record.waitFor("make");
+  controller.reset();
+  EXPECT_EQ(countEntries("Exception caught:telemetry thread", "ERROR"), 1);
+}
+
+// The stand-in, whose last call a test can wait for.
+class ObservedStandIn : public BuiltInAnalytics {
+ public:
+  explicit ObservedStandIn(AnalyticsRecord& record) : m_record(record) {}
+  int stop() override {
+    const int result = BuiltInAnalytics::stop();
+    m_record.add("stop");
+    return result;
+  }
+
+ private:
+  AnalyticsRecord& m_record;
+};
+
+class ReportOfTheStandIn : public Telemetry {
+ protected:
+  void runWithStandIn() {
+    auto controller =
+        std::make_unique<cTelemetryController>([this] { return std::make_unique<ObservedStandIn>(record); });
+    gate.open();
+    record.waitFor("stop");
+    controller.reset();
+  }
+};
+
+TEST_F(ReportOfTheStandIn, IsOneLineInTheCacheFolder) {
+  runWithStandIn();
+  const std::string content = readFile(xplFileSystemMini::joinPath(folder(), "usage.txt"));
+  EXPECT_EQ(content.rfind("start=2016-05-21T21:15:23Z stop=2016-05-21T21:15:27Z version=5.4.1 build=", 0), 0U)
+      << content;
+  EXPECT_TRUE(logWarning().isEmpty());
+}
+
+TEST_F(ReportOfTheStandIn, WithoutACacheFolderIsAWarning) {
+  writeFile(folder(), "a file in its place");
+  runWithStandIn();
+  EXPECT_EQ(countEntries("TB invalid path:" + folder(), "Warning"), 1);
+}
+
+TEST_F(ReportOfTheStandIn, WithAnythingInItsFilesPlaceIsAWarning) {
+  xplFileSystemMini::createFolder(folder());
+  xplFileSystemMini::createFolder(xplFileSystemMini::joinPath(folder(), "usage.txt"));
+  runWithStandIn();
+  EXPECT_EQ(countEntries("TB access denied to path:" + folder(), "Warning"), 1);
 }
 
 TEST_F(Telemetry, TheBuildStampHasItsForm) {

@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "services/linux/sdlSound.h"
+#include "support/log.h"
 
 struct SoundWorker::State {
   std::mutex mutex;
@@ -78,6 +79,7 @@ SoundWorker::~SoundWorker() {
     m_thread.join();
   } else {
     systemIsLost() = true;
+    logInfo().add("silent: the sound system does not answer and is left behind");
     m_thread.detach();
   }
 }
