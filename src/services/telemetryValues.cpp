@@ -1,4 +1,4 @@
-// Knows when the program was built. Alone in its file, since it is compiled anew with every build of it.
+// Knows when the program was built: when this file was compiled, as the log's own stamp tells of its file.
 #include "services/telemetryValues.h"
 
 std::string telemetryValues::buildStamp() {

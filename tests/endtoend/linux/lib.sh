@@ -18,7 +18,10 @@ mkdir -m 700 "$HOME" "$TMPDIR"
 cd "$work" || exit 1
 log=$TMPDIR/Lunaria.xplLog.txt
 
+script=$BASHPID
 finish() {
+  # A saver that is ended before it has begun is still a copy of this shell, and must not clear up after it.
+  [ "$BASHPID" = "$script" ] || return 0
   [ -n "$saver" ] && kill -KILL "$saver" 2>/dev/null
   for server in "${servers[@]}"; do kill "$server" 2>/dev/null; done
   wait 2>/dev/null
