@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Draws the pictures of the README anew; needs a Linux build and ImageMagick.
+# Draws the pictures of the README anew (settings.png is a photograph of the settings program); needs a Linux build and ImageMagick.
 set -euo pipefail
 cd "$(dirname "$0")"
 work=$(mktemp -d)
