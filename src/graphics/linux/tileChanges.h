@@ -13,8 +13,10 @@
 // that is drawn anew in every frame little is ever different, and only that is sent to the display.
 class TileChanges {
  public:
-  static constexpr int tileWidth = 64;   // pixels
-  static constexpr int tileHeight = 16;  // pixels
+  // Small ones: a star is 7 pixels wide, and its tiles are read again in each frame. Smaller ones still would
+  // cost more parts to be sent than they save.
+  static constexpr int tileWidth = 32;  // pixels
+  static constexpr int tileHeight = 8;  // pixels
 
   // Size of the picture in pixels. At first nothing counts as shown.
   TileChanges(int width, int height);

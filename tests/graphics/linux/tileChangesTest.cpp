@@ -33,7 +33,7 @@ class TileChangesTest : public testing::Test {
 };
 
 TEST_F(TileChangesTest, AtFirstEverythingIsNew) {
-  EXPECT_EQ("0,0-200,16 0,16-200,32 0,32-200,40 ", describe(changes.takeChanged(memory)));
+  EXPECT_EQ("0,0-200,8 0,8-200,16 0,16-200,24 0,24-200,32 0,32-200,40 ", describe(changes.takeChanged(memory)));
   EXPECT_EQ("", describe(changes.takeChanged(memory)));
 }
 
@@ -46,9 +46,9 @@ TEST_F(TileChangesTest, APixelChangesItsTile) {
 TEST_F(TileChangesTest, NeighboursInARowAreOnePart) {
   changes.takeChanged(memory);
   write(0, 0, 5);
-  write(64, 15, 5);
+  write(32, 7, 5);
   write(199, 3, 5);
-  EXPECT_EQ("0,0-128,16 192,0-200,16 ", describe(changes.takeChanged(memory)));
+  EXPECT_EQ("0,0-64,8 192,0-200,8 ", describe(changes.takeChanged(memory)));
 }
 
 TEST_F(TileChangesTest, WhatIsDrawnOverAndPutBackHasNotChanged) {
@@ -62,7 +62,7 @@ TEST_F(TileChangesTest, WhatIsDrawnOverAndPutBackHasNotChanged) {
 TEST_F(TileChangesTest, WhatWasLostIsNewAgain) {
   changes.takeChanged(memory);
   changes.forgetShown();
-  EXPECT_EQ("0,0-200,16 0,16-200,32 0,32-200,40 ", describe(changes.takeChanged(memory)));
+  EXPECT_EQ("0,0-200,8 0,8-200,16 0,16-200,24 0,24-200,32 0,32-200,40 ", describe(changes.takeChanged(memory)));
 }
 
 TEST(TileChangesOfNothing, AreNone) {
@@ -138,7 +138,7 @@ TEST_F(ShownFrames, EveryKindOfDrawingIsSeen) {
 TEST_F(ShownFrames, AllIsSentAgainWhenTheWindowLostIt) {
   native.isLost = true;
   window.flush();
-  EXPECT_EQ("present 0,0-130,16 0,16-130,20 ", native.events);
+  EXPECT_EQ("present 0,0-130,8 0,8-130,16 0,16-130,20 ", native.events);
 }
 
 }  // namespace
