@@ -1,12 +1,17 @@
 // Implements the screen saver: initialisation, the frame cycle and the end.
 #include "host/noctisScreensaver.h"
 
+#include <string_view>
 #include <utility>
 
+#include "host/programVersion.h"
+#include "services/telemetryValues.h"
 #include "support/settings.h"
 #include "world/oldTvEffect.h"
 
 namespace {
+
+static_assert(std::string_view(telemetryValues::productVersion) == programVersion);
 
 constexpr int oldTvEffect = 1;  // the setting's value
 
@@ -40,7 +45,8 @@ void noctisScreensaver::initWithWindowHandle(xplWindowHandle windowHandle, std::
   xplScreenSaverAbstract::initWithWindowHandle(windowHandle, monitorId);
   if (m_world) {
     logError().add("noctisScreensaver.initWithWindowHandle(): ncWorldPtr is not NULL");
-    // The new world takes the place of the old one, which is put aside and not deleted before the saver goes.
+    // Deliberate: the new world takes the place of the old one, which is put aside and not deleted before the
+    // saver goes: whoever still draws it must find it.
     m_replacedWorlds.push_back(std::move(m_world));
   }
   logInfo().addf("Creating TnoctisWorld with monitorId =%i", monitorId);
@@ -71,7 +77,7 @@ void noctisScreensaver::startStartupEffect(std::int32_t monitorId) {
   if (!m_startupEffect && m_appSettings.startupEffect.read() == oldTvEffect) {
     m_startupEffect = std::make_unique<cWindowTransitionEffect_OldTV>();
   }
-  if (m_startupEffect && !m_startupEffect->finished()) {
+  if (m_startupEffect) {
     m_startupEffect->initWithWindow(window(), monitorId);
   }
 }

@@ -3,8 +3,8 @@
 
 #include <string>
 
-// All calls come from one thread, in the order of this list, each at most once. Texts are narrow strings.
-// Results are the library's own: 0 and above for success.
+// All calls come from one thread, in the order of this list, each at most once, but for the last. Texts are
+// narrow strings. Results are the library's own: 0 and above for success.
 class xpliAnalytics {
  public:
   static constexpr int invalidPath = -10;

@@ -10,6 +10,7 @@ constexpr unsigned waitStep = 50;                 // milliseconds
 constexpr std::int64_t waitBeforeStart = 23'000;  // milliseconds: who looks in for a moment is not counted
 constexpr std::int64_t waitBeforeStop = 4'000;    // milliseconds: the library's time to deliver
 
+// Deliberate: two of the results are told, all others are not looked at; the session begins in any case.
 void setCachePath(xpliAnalytics& library, const std::string& folder) {
   const int result = library.setFilePath(folder);
   if (result == xpliAnalytics::invalidPath) {
@@ -70,5 +71,6 @@ void cTelemetryDoAllSteps_Trackerbird::doSession(xpliAnalytics& library, const s
     return;
   }
   stopSession(library);
+  // Deliberate: only here; after an abort nobody waits to hear of errors, and the log keeps its few lines.
   reportErrors(library);
 }

@@ -22,15 +22,15 @@ constexpr float msgStarDimmest = 0.3F;
 constexpr float msgStarBrightest = 0.5F;
 
 constexpr float messageDuration = 30.0F;  // seconds from one message's start until the next may come
-// The entry names the condition as it has always been written.
+constexpr int randomChoiceOdds = 20;      // one message in so many is chosen at random
+
+// The entry names the condition in the words by which it is looked for.
 void reportMissingMessage() {
   if (xplAssertionsReport) {
     xplReportFailedAssertion("m && _T(\"#8662: msgStarDirector.getMsg() returned NULL\")",
                              "#8662: msgStarDirector.getMsg() returned NULL", "noctisWorld", __LINE__);
   }
 }
-
-constexpr int randomChoiceOdds = 20;  // one message in so many is chosen at random
 
 }  // namespace
 

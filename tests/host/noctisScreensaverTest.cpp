@@ -231,7 +231,7 @@ TEST_F(NoctisScreensaver, ShuttingDownWithoutAnInitialisationLogsTheThreeLinesAl
                                         deletions[2], "Exiting: noctisScreensaver.shutDown()"));
 }
 
-TEST_F(NoctisScreensaver, ASecondInitialisationIsAnErrorAndReplacesTheWorld) {
+TEST_F(NoctisScreensaver, KeptASecondInitialisationIsAnErrorAndReplacesTheWorld) {
   noctisScreensaver saver;
   saver.initWithWindowHandle(window.handle(), -1);
   newEntries();

@@ -24,7 +24,7 @@ TEST_F(Telemetry, AnAbortBeforeTheStartMakesNoCall) {
   EXPECT_EQ(gate.now().seconds, 1463865300 + 1);
 }
 
-TEST_F(Telemetry, AnAbortDuringTheStartStopsTheSession) {
+TEST_F(Telemetry, KeptAnAbortDuringTheStartStopsTheSessionAndReportsNoErrors) {
   std::unique_ptr<cTelemetryController> controller;
   std::atomic<cTelemetryController*> shared{nullptr};
   record.duringStart = [&shared] { shared.load()->requestAbort(); };

@@ -64,7 +64,7 @@ TEST_F(Telemetry, PendingErrorsAreReportedAfterTheStartAndAfterTheStop) {
   EXPECT_EQ(countEntries("#7592a: Errors in m_telemetryPtr:no stop", "Warning"), 1);
 }
 
-TEST_F(Telemetry, TheStopIsABlockOfTheLog) {
+TEST_F(Telemetry, KeptTheStopIsABlockOfTheLogWithADestructorsName) {
   runThrough();
   EXPECT_EQ(countEntries("Entering: ~xplAppTelemetryTrackerBird()", "Info"), 1);
   EXPECT_EQ(countEntries("Exiting: ~xplAppTelemetryTrackerBird()", "Info"), 1);

@@ -23,7 +23,7 @@ Without an option it covers the whole screen until a key, a button or the pointe
 Long options may be written with one dash. DISPLAY names the display. LUNARIA_NO_SHM=1 draws without memory
 shared with the display.
 The log of the last run is Lunaria.xplLog.txt in the temporary folder.
-A full run of half a minute or more adds one line (start, end, version) to "Lunaria software/usage.txt" in the
+A full run of more than 23 seconds adds one line (times, version, build) to "Lunaria software/usage.txt" in the
 user's data folder; nothing leaves the machine. The setting sisableTelemetry=yes stops that.
 )";
 }

@@ -22,7 +22,7 @@ class SdlSound {
   SdlSound& operator=(const SdlSound&) = delete;
 
  private:
-  // The sound system, from the first sound to the last: a server that was started anew is found again.
+  // The sound system, for as long as one sound is played: a server that was started anew is found again.
   struct System {
     System();
     ~System();
