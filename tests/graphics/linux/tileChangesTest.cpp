@@ -33,7 +33,8 @@ class TileChangesTest : public testing::Test {
 };
 
 TEST_F(TileChangesTest, AtFirstEverythingIsNew) {
-  EXPECT_EQ("0,0-200,8 0,8-200,16 0,16-200,24 0,24-200,32 0,32-200,40 ", describe(changes.takeChanged(memory)));
+  EXPECT_EQ("0,0-200,8 0,8-200,16 0,16-200,24 0,24-200,32 0,32-200,40 ",
+            describe(changes.takeChanged(memory)));
   EXPECT_EQ("", describe(changes.takeChanged(memory)));
 }
 
@@ -62,7 +63,8 @@ TEST_F(TileChangesTest, WhatIsDrawnOverAndPutBackHasNotChanged) {
 TEST_F(TileChangesTest, WhatWasLostIsNewAgain) {
   changes.takeChanged(memory);
   changes.forgetShown();
-  EXPECT_EQ("0,0-200,8 0,8-200,16 0,16-200,24 0,24-200,32 0,32-200,40 ", describe(changes.takeChanged(memory)));
+  EXPECT_EQ("0,0-200,8 0,8-200,16 0,16-200,24 0,24-200,32 0,32-200,40 ",
+            describe(changes.takeChanged(memory)));
 }
 
 TEST(TileChangesOfNothing, AreNone) {
