@@ -20,7 +20,10 @@ constexpr std::int64_t secondsPerMinute = 60;
 }  // namespace
 
 cPreventComputerSleep::cPreventComputerSleep(std::unique_ptr<xpliKeepAwake> keepAwake, xplSettings& store)
-    : cAppSettings(store), m_keepAwake(std::move(keepAwake)), m_mode(preventComputerSleep.read()) {
+    : cAppSettings(store),
+      m_store(store),
+      m_keepAwake(std::move(keepAwake)),
+      m_mode(preventComputerSleep.read()) {
   changeSettingIfTimeHasExpired();
   if (isActive()) {
     preventIdleSleep();
@@ -65,6 +68,11 @@ void cPreventComputerSleep::restoreIdleSleep() {
 
 void cPreventComputerSleep::changeSettingIfTimeHasExpired() {
   logInfo().add("cPreventComputerSleep.changeSettingIfTimeHasExpired()");
+  if (isTimed() && hasExpired()) {
+    // The settings sheet may have chosen anew while this ran, and that must not be undone.
+    m_store.reload();
+    m_mode = preventComputerSleep.read();
+  }
   if (isTimed() && hasExpired()) {
     logInfo().add("cPreventComputerSleep expired and changing setting to NONE");
     m_mode = offMode;

@@ -9,7 +9,8 @@
 
 class cPreventComputerSleep : public cAppSettings {
  public:
-  // Takes the platform's request over; without one every request fails. Reads the settings, switches an
+  // Takes the platform's request over; without one every request fails. Borrows the store, which must outlive
+  // this. Reads the settings, switches an
   // option off that has expired, and makes the request where one is in force.
   explicit cPreventComputerSleep(std::unique_ptr<xpliKeepAwake> keepAwake,
                                  xplSettings& store = xplUserSettings());
@@ -23,7 +24,8 @@ class cPreventComputerSleep : public cAppSettings {
   bool preventIdleSleep();
   // Ends the request, and switches the option off where its time is over. Does nothing without a request.
   void restoreIdleSleep();
-  // In the timed modes: switches the option off, here and in the settings, where its time is over.
+  // In the timed modes: switches the option off, here and in the settings, where its time is over. What the
+  // settings file holds by then counts: an option that was chosen anew meanwhile is taken over and stays.
   void changeSettingIfTimeHasExpired();
   // Once a frame.
   void tick();
@@ -35,6 +37,7 @@ class cPreventComputerSleep : public cAppSettings {
   bool isTimed() const;
   bool hasExpired() const;
 
+  xplSettings& m_store;
   std::unique_ptr<xpliKeepAwake> m_keepAwake;  // null: every request fails
   std::int32_t m_mode;                         // value of "preventComputerSleep"
   std::int32_t m_tickCounter = 0;              // frames since the last check

@@ -74,7 +74,7 @@ xplSettings::xplSettings(int scope) {
   m_filename = xplFileSystemMini::joinPath(makeCompanyFolder(_settingsFilename),
                                            std::string(applicationName) + ".ini");
   logInfo().add("xplSettings constructor: filename:" + m_filename);
-  if (!load()) {
+  if (!reload()) {
     logError().add("Error #1351: loading xplSettings from file:" + m_filename);
   }
 }
@@ -83,20 +83,6 @@ xplSettings::~xplSettings() {
   if (!saveOnEveryChange && !save()) {
     logError().add("Error #1352: saving xplSettings to file:" + m_filename);
   }
-}
-
-bool xplSettings::load() {
-  if (!xplFileSystemMini::fileExists(m_filename)) {
-    return true;
-  }
-  std::optional<std::string> content = readWhole(m_filename);
-  if (!content) {
-    logError().add("#8551: Could not open file:" + m_filename);
-    return false;
-  }
-  m_values.clear();
-  parseSettings(std::move(*content), m_values);
-  return true;
 }
 
 bool xplSettings::mergeWithFile(std::map<std::string, std::string>& merged) {
@@ -112,6 +98,16 @@ bool xplSettings::mergeWithFile(std::map<std::string, std::string>& merged) {
   for (const std::string& key : m_unsaved) {
     merged[key] = m_values[key];
   }
+  return true;
+}
+
+bool xplSettings::reload() {
+  std::map<std::string, std::string> merged;
+  if (!mergeWithFile(merged)) {
+    logError().add("#8551: Could not open file:" + m_filename);
+    return false;
+  }
+  m_values = std::move(merged);
   return true;
 }
 

@@ -41,6 +41,11 @@ class xplSettings {
   // and false is returned. Inside a Batch it leaves the saving to that, and returns true.
   bool changeAllOrNothing(const std::function<void()>& changes);
 
+  // Takes the file's values over, as another program has left them; what was set here and could not be saved
+  // yet stays. Where the file is gone all values stay as they are; where it cannot be read, too, and false is
+  // returned after that was logged.
+  bool reload();
+
   // The file's full path.
   const std::string& filename() const { return m_filename; }
   // Why the last save failed, in the system's words; empty where it worked or none was tried.
@@ -64,7 +69,6 @@ class xplSettings {
   };
 
  private:
-  bool load();
   // Writes the file as it is now with our own changes over it: what another program has written to it in the
   // meantime (the settings sheet while a saver runs, a second sheet) is kept, and taken over. A file that
   // cannot be read is not written, for that would destroy what it holds.

@@ -28,6 +28,9 @@ class PreventComputerSleep : public PrivateFolders {
   }
   std::int64_t thisMinute() { return clock.now().seconds / 60; }
   static std::string storedMode() { return xplUserSettings().get("preventComputerSleep").value_or("none"); }
+  static std::string modeInFile() {
+    return xplSettings(xplSettings::scopeUser).get("preventComputerSleep").value_or("none");
+  }
   static void tick(cPreventComputerSleep& preventer, int times) {
     for (int i = 0; i < times; ++i) {
       preventer.tick();

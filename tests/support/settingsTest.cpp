@@ -386,6 +386,40 @@ TEST_F(Settings, WhatCouldNotBeSavedComesWithTheNextSave) {
   EXPECT_EQ(file.get("c"), "3");
 }
 
+TEST_F(Settings, ReloadingTakesOverWhatAnotherProgramWrote) {
+  given("a=1\ngone=1\n");
+  xplSettings ours(xplSettings::scopeUser);
+  given("a=2\nnew=3\n");
+  ours.reload();
+  EXPECT_EQ(ours.get("a"), "2");
+  EXPECT_EQ(ours.get("new"), "3");
+  EXPECT_FALSE(ours.get("gone").has_value());
+  EXPECT_EQ(saved(), "a=2\nnew=3\n");
+}
+
+TEST_F(Settings, ReloadingKeepsWhatIsNotSavedYet) {
+  given("a=1\nb=1\n");
+  xplSettings ours(xplSettings::scopeUser);
+  {
+    const xplSettings::Batch batch(ours);
+    ours.set("a", "mine");
+    given("a=2\nb=2\n");
+    ours.reload();
+    EXPECT_EQ(ours.get("a"), "mine");
+    EXPECT_EQ(ours.get("b"), "2");
+  }
+  EXPECT_EQ(saved(), "a=mine\nb=2\n");
+}
+
+TEST_F(Settings, ReloadingAFileThatIsGoneKeepsTheValues) {
+  given("a=1\n");
+  xplSettings store(xplSettings::scopeUser);
+  ASSERT_EQ(std::remove(file().c_str()), 0);
+  store.reload();
+  EXPECT_EQ(store.get("a"), "1");
+  EXPECT_TRUE(logError().isEmpty());
+}
+
 TEST_F(Settings, AllChangesAreSavedTogether) {
   xplSettings store(xplSettings::scopeUser);
   EXPECT_TRUE(store.changeAllOrNothing([&] {

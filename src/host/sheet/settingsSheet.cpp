@@ -39,6 +39,8 @@ void SettingsSheet::rememberPage() {
 }
 
 std::vector<int> SettingsSheet::open(int page) {
+  // Another sheet may have saved since: what is shown here would be written back over it.
+  m_store.reload();
   m_opened.insert(page);
   if (page == messagesPage) {
     m_messages.load();

@@ -41,7 +41,8 @@ class SettingsSheet {
   // Keeps the last active page for the next time; also after a cancelled sheet.
   void rememberPage();
 
-  // Reads the settings of a page, and returns the ids of its controls that are to be checked.
+  // Reads the settings of a page, from the file as it is now, and returns the ids of its controls that are to
+  // be checked.
   std::vector<int> open(int page);
   bool isOpen(int page) const { return m_opened.contains(page); }
   MessageEditor& messages() { return m_messages; }

@@ -193,6 +193,31 @@ TEST_F(SettingsSheetModel, TwoSheetsKeepEachOthersPages) {
   EXPECT_EQ(inFile("background"), "0");
 }
 
+TEST_F(SettingsSheetModel, APageThatIsOpenedLateShowsWhatAnotherSheetSaved) {
+  xplSettings firstStore(xplSettings::scopeUser);
+  xplSettings secondStore(xplSettings::scopeUser);
+  SettingsSheet first(firstStore);
+  SettingsSheet second(secondStore);
+  second.open(moonPage);
+  first.open(backgroundPage);
+  first.open(messagesPage);
+  first.messages().storeEdits("theirs", "below");
+  first.collect(backgroundPage, {controlIds::black});
+  first.collect(messagesPage, {});
+  EXPECT_TRUE(first.commit());
+  const auto shown = second.open(backgroundPage);
+  EXPECT_THAT(shown, ElementsAre(controlIds::black));
+  second.open(messagesPage);
+  EXPECT_EQ(second.messages().view().message, "theirs");
+  second.collect(moonPage, {controlIds::moonSmall});
+  second.collect(backgroundPage, shown);
+  second.collect(messagesPage, {});
+  EXPECT_TRUE(second.commit());
+  EXPECT_EQ(inFile("background"), "0");
+  EXPECT_EQ(inFile("message1"), "theirs");
+  EXPECT_EQ(inFile("moonSize"), "100");
+}
+
 TEST_F(SettingsSheetModel, ASaverThatRunsDoesNotUndoWhatTheSheetWrote) {
   xplSettings saversStore(xplSettings::scopeUser);
   SettingsSheet sheet;
