@@ -23,16 +23,46 @@ MessageEditor::View MessageEditor::view() const {
   return view;
 }
 
+void MessageEditor::load() {
+  m_messages.load();
+  forgetFilled();
+}
+
+void MessageEditor::filled(const std::string& message, const std::string& bottomLine) {
+  m_filledMessage = message;
+  m_filledBottomLine = bottomLine;
+}
+
+void MessageEditor::forgetFilled() {
+  m_filledMessage.reset();
+  m_filledBottomLine.reset();
+}
+
 void MessageEditor::storeEdits(const std::string& message, const std::string& bottomLine) {
-  m_messages.replace(m_messages.currentIndex, {tidyMessage(message), tidyBottomLine(bottomLine)});
+  const sMessage* entry = m_messages.get(m_messages.currentIndex);
+  if (entry == nullptr) {
+    return;
+  }
+  sMessage edited = *entry;
+  if (message != m_filledMessage) {
+    edited.message = tidyMessage(message);
+  }
+  if (bottomLine != m_filledBottomLine) {
+    edited.bottomLine = tidyBottomLine(bottomLine);
+  }
+  m_messages.replace(m_messages.currentIndex, edited);
+  // The sheet may stay open after this; going back to the text of before is a change then.
+  filled(message, bottomLine);
 }
 
 void MessageEditor::press(int button, const std::string& message, const std::string& bottomLine) {
   if (button == controlIds::deleteMessage) {
     deleteCurrent();
+    forgetFilled();
     return;
   }
   storeEdits(message, bottomLine);
+  forgetFilled();
   const View now = view();
   if (button == controlIds::newMessage) {
     addNew();

@@ -1,6 +1,7 @@
 // Edits the list of messages, one entry at a time.
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "support/settingsGroups.h"
@@ -21,9 +22,13 @@ class MessageEditor {
   explicit MessageEditor(xplSettings& store) : m_messages(store) {}
 
   // Reads the list (and, the first time ever, fills and saves it); the first entry is the current one.
-  void load() { m_messages.load(); }
+  void load();
   View view() const;
-  // Takes what stands in the two edits into the current entry, tidied; nothing where the list is empty.
+  // What the two edits give back right after they were filled with the current entry. It may differ from the
+  // entry, since an edit does not keep every byte of a text that was written by hand.
+  void filled(const std::string& message, const std::string& bottomLine);
+  // Takes what stands in the two edits into the current entry, tidied; nothing where the list is empty. A
+  // text that stands as the edit was filled is nobody's change, and the entry keeps it byte for byte.
   void storeEdits(const std::string& message, const std::string& bottomLine);
   // What one of the page's four buttons does (its id), with what stands in the two edits. "New" puts an empty
   // entry after the current one; "Delete" moves to the entry after the deleted one, or to the last.
@@ -34,6 +39,10 @@ class MessageEditor {
  private:
   void addNew();
   void deleteCurrent();
+  void forgetFilled();
 
   cMessageSettings m_messages;
+  // What stands in the edits without having been changed; nothing before they are filled.
+  std::optional<std::string> m_filledMessage;
+  std::optional<std::string> m_filledBottomLine;
 };

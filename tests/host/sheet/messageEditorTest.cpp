@@ -164,6 +164,29 @@ TEST_F(MessageEditing, LoadingAgainForgetsWhatWasNotSaved) {
   EXPECT_EQ(editor.view().position, "Message 1 of 2");
 }
 
+TEST_F(MessageEditing, WhatStandsAsItWasFilledIsKeptByteForByte) {
+  loadList({"a\tb\x01\xE9", "two"});
+  editor.filled("shown otherwise", "and this");
+  press(controlIds::nextMessage, "shown otherwise", "changed\t");
+  EXPECT_THAT(listAfterSaving(), ElementsAre("a\tb\x01\xE9|changed ", "two|two line"));
+}
+
+TEST_F(MessageEditing, WhatWasFilledCountsForItsEntryAlone) {
+  loadList({"one", "two"});
+  editor.filled("uno", "primo");
+  press(controlIds::nextMessage, "uno", "primo");
+  editor.storeEdits("uno", "primo");
+  EXPECT_THAT(listAfterSaving(), ElementsAre("one|one line", "uno|primo"));
+}
+
+TEST_F(MessageEditing, GoingBackToTheFirstTextAfterAStoreIsAChange) {
+  loadList({"one"});
+  editor.filled("one", "one line");
+  editor.storeEdits("other", "one line");
+  editor.storeEdits("one", "one line");
+  EXPECT_THAT(listAfterSaving(), ElementsAre("one|one line"));
+}
+
 TEST_F(MessageEditing, TextsAreTidied) {
   loadList({"one"});
   editor.storeEdits("a\nb\x01", "c\r\nd\t");

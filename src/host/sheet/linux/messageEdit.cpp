@@ -55,7 +55,8 @@ void MessageEdit::keyPressEvent(QKeyEvent* event) {
 }
 
 std::string MessageEdit::message() const {
-  return limitedText(toPlainText().replace("\n", "\r\n"));
+  // The plain text would have blanks for no-break spaces.
+  return limitedText(document()->toRawText().replace(QChar(QChar::ParagraphSeparator), "\r\n"));
 }
 
 void MessageEdit::setMessage(const std::string& message) {

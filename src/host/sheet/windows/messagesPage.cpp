@@ -25,10 +25,11 @@ void enable(HWND dialog, int control, bool enabled) {
   EnableWindow(window, enabled);
 }
 
-void refresh(HWND dialog, const MessageEditor& editor) {
+void refresh(HWND dialog, MessageEditor& editor) {
   const MessageEditor::View view = editor.view();
   SetDlgItemTextA(dialog, controlIds::message, view.message.c_str());
   SetDlgItemTextA(dialog, controlIds::bottomLine, view.bottomLine.c_str());
+  editor.filled(textOf(dialog, controlIds::message), textOf(dialog, controlIds::bottomLine));
   SetDlgItemTextA(dialog, controlIds::messagePosition, view.position.c_str());
   enable(dialog, controlIds::message, view.hasEntry);
   enable(dialog, controlIds::bottomLine, view.hasEntry);
@@ -39,7 +40,7 @@ void refresh(HWND dialog, const MessageEditor& editor) {
 
 }  // namespace
 
-void initializeMessagesPage(HWND dialog, const MessageEditor& editor) {
+void initializeMessagesPage(HWND dialog, MessageEditor& editor) {
   for (const int control : {controlIds::message, controlIds::bottomLine}) {
     SendDlgItemMessageA(dialog, control, EM_LIMITTEXT, maxMessageCharacters, 0);
   }

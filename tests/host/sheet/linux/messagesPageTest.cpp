@@ -153,6 +153,40 @@ TEST_F(MessagesPageTest, LettersOfAllLanguagesAreStoredInUtf8) {
   EXPECT_EQ(message().toPlainText(), QString::fromUtf8("Grüße, 夜空 🌙"));
 }
 
+// What a text written by hand may hold and no edit keeps: Latin-1, a no-break space, separators, a tab.
+const std::vector<std::string> writtenByHand = {"caf\xE9 \tend",
+                                                "no\xC2\xA0"
+                                                "break\tx",
+                                                "a\xE2\x80\xA8"
+                                                "b",
+                                                "\xEF\xBB\xBFmark\nline"};
+
+TEST_F(MessagesPageTest, WhatIsOnlyLookedAtStaysByteForByte) {
+  showMessages(writtenByHand);
+  for (std::size_t i = 1; i < writtenByHand.size(); ++i) {
+    click(id::nextMessage);
+  }
+  click(id::previousMessage);
+  ok();
+  for (std::size_t i = 0; i < writtenByHand.size(); ++i) {
+    EXPECT_EQ(inFile("message" + std::to_string(i + 1)), writtenByHand[i]);
+    EXPECT_EQ(inFile("bottomline" + std::to_string(i + 1)), writtenByHand[i] + " line");
+  }
+}
+
+TEST_F(MessagesPageTest, ANoBreakSpaceSurvivesAnEdit) {
+  showMessages({"10\xC2\xA0km"});
+  message().moveCursor(QTextCursor::End);
+  QTest::keyClicks(&message(), "!");
+  press(message(), Qt::Key_Return, Qt::ControlModifier);
+  QTest::keyClicks(&message(), "far");
+  bottomLine().end(false);
+  QTest::keyClicks(&bottomLine(), "!");
+  ok();
+  EXPECT_EQ(inFile("message1"), "10\xC2\xA0km!\r\nfar");
+  EXPECT_EQ(inFile("bottomline1"), "10\xC2\xA0km line!");
+}
+
 TEST_F(MessagesPageTest, ThousandsOfMessagesAreShown) {
   showMessages(std::vector<std::string>(5000, "again"));
   EXPECT_EQ(position(), "Message 1 of 5000");
