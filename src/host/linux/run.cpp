@@ -37,6 +37,14 @@ void runMessages(X11Connection& connection, StopSignals& signals, X11Window& win
   }
 }
 
+// Logged when the run is over, also where it failed.
+struct ClosingLine {
+  ClosingLine() = default;
+  ~ClosingLine() { logInfo().add("xplLog closing"); }
+  ClosingLine(const ClosingLine&) = delete;
+  ClosingLine& operator=(const ClosingLine&) = delete;
+};
+
 }  // namespace
 
 void runSaver(X11Connection& connection, StopSignals& signals, const HostRequest& request) {
@@ -55,7 +63,10 @@ void runSaver(X11Connection& connection, StopSignals& signals, const HostRequest
   }
 }
 
+// The log's lines are those of the dialog that opens the sheet on Windows.
 void runConfiguration() {
+  logInfo().add("ScreenSaverConfigureDialog received WM_INITDIALOG");
+  const ClosingLine closing;
   if (const auto saver = windowProcedure::makeScreenSaver(); saver && saver->hasConfigureSheet()) {
     saver->showConfigureSheet(nullptr);
   }

@@ -41,9 +41,13 @@ check "the launcher is a valid one" desktop-file-validate \
   "$(dirname "$0")/../../../packaging/linux/lunaria-configure.desktop"
 
 start_display 1280x800x24
+rm -f "$log"
 check "the sheet opens" start_sheet "$lunaria" --configure
 type_keys Escape
 await_saver 5; same "Escape closes it: exit code" 0 "$code"
+same "the log says that the dialog opened" 1 \
+  "$(log_entries | grep -cx 'ScreenSaverConfigureDialog received WM_INITDIALOG')"
+same "the log ends as on Windows" $'xplLog closing\nxplLog closing' "$(log_entries | tail -2)"
 same "Escape writes the page alone" "activeDialogTab=0" "$(cat "$settings")"
 
 check "it opens again" start_sheet "$configure"
