@@ -54,6 +54,10 @@ TEST_F(PageSettings, AnotherMoonSizeShowsMediumAndBecomes200) {
   EXPECT_EQ(xplUserSettings().get("moonSize"), "200");
 }
 
+TEST_F(PageSettings, AMoonSizeThatIsNoNumberShowsTheDefaultLarge) {
+  expectFallback(moonPage, "moonSize", 1005, {"abc", "", "200x"});
+}
+
 TEST_F(PageSettings, BackgroundsMapBothWays) {
   expectRows(backgroundPage, "background", {{1013, 0}, {1014, 1}, {1012, 2}, {1011, 3}});
 }

@@ -108,6 +108,12 @@ INT_PTR notified(HWND dialog, int page, const NMHDR& notification) {
   return handled;
 }
 
+// An edit of several lines makes Escape into WM_CLOSE for its page, which becomes this command. Nobody else
+// would hear it.
+bool isEscapeOfAnEdit(WPARAM wParam, LPARAM lParam) {
+  return wParam == IDCANCEL && lParam == 0;
+}
+
 template <int page>
 INT_PTR CALLBACK pageProcedure(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
@@ -117,6 +123,10 @@ INT_PTR CALLBACK pageProcedure(HWND dialog, UINT message, WPARAM wParam, LPARAM 
       return TRUE;
     }
     case WM_COMMAND:
+      if (isEscapeOfAnEdit(wParam, lParam)) {
+        PropSheet_PressButton(GetParent(dialog), PSBTN_CANCEL);
+        return TRUE;
+      }
       if (HIWORD(wParam) != BN_CLICKED || lParam == 0) {
         return FALSE;
       }

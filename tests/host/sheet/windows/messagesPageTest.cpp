@@ -127,6 +127,37 @@ TEST_F(MessagesPage, PastedControlCharactersAreNotStored) {
   EXPECT_EQ(stored("message1"), "ab c\r\nd=\\e");
 }
 
+// What a text written by hand may hold and no edit keeps: Latin-1, a no-break space, separators, a tab.
+const std::vector<std::string> writtenByHand = {"caf\xE9 \tend",
+                                                "no\xC2\xA0"
+                                                "break\tx",
+                                                "a\xE2\x80\xA8"
+                                                "b",
+                                                "\xEF\xBB\xBFmark\nline"};
+
+TEST_F(MessagesPage, WhatIsOnlyLookedAtStaysByteForByte) {
+  show(writtenByHand, [](SheetDriver& driver) {
+    for (std::size_t i = 1; i < writtenByHand.size(); ++i) {
+      driver.click(id::nextMessage);
+    }
+    driver.click(id::previousMessage);
+    driver.ok();
+  });
+  for (std::size_t i = 0; i < writtenByHand.size(); ++i) {
+    EXPECT_EQ(stored("message" + std::to_string(i + 1)), writtenByHand[i]);
+    EXPECT_EQ(stored("bottomline" + std::to_string(i + 1)), writtenByHand[i] + " line");
+  }
+}
+
+TEST_F(MessagesPage, EscapeInTheMessageCancelsTheSheet) {
+  show({"one"}, [](SheetDriver& driver) {
+    driver.setText(id::message, "other");
+    SetFocus(driver.control(id::message));
+    PostMessageA(driver.control(id::message), WM_KEYDOWN, VK_ESCAPE, 0);
+  });
+  EXPECT_EQ(stored("message1"), "one");
+}
+
 TEST_F(MessagesPage, ThousandsOfMessagesAreShown) {
   show(std::vector<std::string>(5000, "again"), [](SheetDriver& driver) {
     EXPECT_EQ(driver.text(id::messagePosition), "Message 1 of 5000");

@@ -159,6 +159,15 @@ TEST_F(PropertySheetTest, AboutShowsItsText) {
   });
 }
 
+// A folder of the user may have an ampersand in its name, which else would underline what follows.
+TEST_F(PropertySheetTest, AboutShowsAnAmpersandAsOne) {
+  show([](SheetDriver& driver) {
+    driver.turnTo(aboutPage);
+    EXPECT_NE(GetWindowLongA(driver.control(controlIds::about), GWL_STYLE) & LWS_NOPREFIX, 0);
+    driver.cancel();
+  });
+}
+
 // The best of five, since the machine may have other things to do.
 TEST_F(PropertySheetTest, OpensAtOnce) {
   constexpr auto longest = std::chrono::milliseconds(300);
