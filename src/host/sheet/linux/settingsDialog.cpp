@@ -1,6 +1,7 @@
 // Implements the settings sheet on Linux.
 #include "host/sheet/linux/settingsDialog.h"
 
+#include <QAbstractButton>
 #include <QDialogButtonBox>
 #include <QMessageBox>
 #include <QPushButton>
@@ -113,8 +114,21 @@ bool SettingsDialog::save() {
   return false;
 }
 
+// A control that is chosen by its letter is shown pressed for a tenth of a second before it changes. Who
+// confirms meanwhile means the changed one.
+bool SettingsDialog::confirmsOncePressedControlChanges() {
+  for (QAbstractButton* button : m_tabs->findChildren<QAbstractButton*>()) {
+    if (button->isDown()) {
+      connect(button, &QAbstractButton::released, this, &QDialog::accept,
+              static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
+      return true;
+    }
+  }
+  return false;
+}
+
 void SettingsDialog::done(int result) {
-  if (result == Accepted && !save()) {
+  if (result == Accepted && (confirmsOncePressedControlChanges() || !save())) {
     return;
   }
   SettingsSheet::pageSwitched(m_active);

@@ -24,6 +24,7 @@ class SettingsDialog : public QDialog {
   QWidget* makePage(int position);
   void turnTo(int position);
   void open(int position);
+  bool confirmsOncePressedControlChanges();
   bool save();
 
   SettingsSheet& m_sheet;

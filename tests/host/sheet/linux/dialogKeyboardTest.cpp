@@ -52,6 +52,15 @@ TEST_F(DialogTest, NoTwoAcceleratorsOfAPageMeetAndNoControlIsWithout) {
   }
 }
 
+TEST_F(DialogTest, WhoConfirmsAtOnceGetsTheControlThatIsStillShownPressed) {
+  show(backgroundPage);
+  press(*dialog, Qt::Key_L, Qt::AltModifier);
+  EXPECT_FALSE(button(controlIds::black).isChecked()) << "pressed, and not yet changed";
+  press(*dialog, Qt::Key_Return);
+  EXPECT_TRUE(QTest::qWaitFor([this] { return !isOpen(); }));
+  EXPECT_EQ(inFile("background"), "0");
+}
+
 TEST_F(DialogTest, AcceleratorsPress) {
   show();
   press(*dialog, Qt::Key_Q, Qt::AltModifier);
