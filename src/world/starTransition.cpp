@@ -7,10 +7,13 @@
 
 namespace {
 
-// The log names the condition as it has always been written there, which is not how it is laid out here.
+bool liesWithinTheAnimation(float t1, float t2) {
+  return (t1 < t2) && (t2 <= cStarTransitionEffectBase::m_animationDuration_inSec);
+}
+
+// The log names the condition in the words by which it is looked for, which are not how it is laid out here.
 void checkFlight(float t1, float t2) {
-  const bool isWithinTheAnimation = (t1 < t2) && (t2 <= cStarTransitionEffectBase::m_animationDuration_inSec);
-  if (xplAssertionsReport && !isWithinTheAnimation) {
+  if (xplAssertionsReport && !liesWithinTheAnimation(t1, t2)) {
     xplReportFailedAssertion("(t1<t2) && (t2<=m_animationDuration_inSec)", "#9682: startTransition_impl()",
                              "cStarTransition", __LINE__);
   }
