@@ -1,33 +1,8 @@
 // A frame of the moon and its label takes no memory unless the text changes: every allocation is counted.
-#include <atomic>
-#include <cstdlib>
-#include <new>
-
+#include "harness/allocationCount.h"
 #include "moon/firstMoonFixture.h"
 #include "moon/moonInfoSprite.h"
 #include "windowharness/testWindow.h"
-
-namespace {
-
-std::atomic<long> allocations{0};
-
-}  // namespace
-
-void* operator new(std::size_t size) {
-  ++allocations;
-  if (void* memory = std::malloc(size == 0 ? 1 : size)) {
-    return memory;
-  }
-  throw std::bad_alloc();
-}
-
-void operator delete(void* memory) noexcept {
-  std::free(memory);
-}
-
-void operator delete(void* memory, std::size_t) noexcept {
-  std::free(memory);
-}
 
 namespace {
 
@@ -65,11 +40,11 @@ TEST_F(MoonAllocation, IsNoneInAFrameInWhichNoTextChanges) {
   int quietFrames = 0;
   for (int i = 0; i < 400; ++i) {
     const std::string text = label.text();
-    const long before = allocations.load();
+    const long before = allocationCount();
     frame();
     if (label.text() == text) {
       ++quietFrames;
-      ASSERT_EQ(before, allocations.load()) << "frame " << i;
+      ASSERT_EQ(before, allocationCount()) << "frame " << i;
     }
   }
   EXPECT_GT(quietFrames, 150);
@@ -79,17 +54,17 @@ TEST_F(MoonAllocation, IsNoneForTypingIntoMemoryOfEarlierTurns) {
   for (int i = 0; i < 400; ++i) {
     label.update(0.04F);
   }
-  const long before = allocations.load();
+  const long before = allocationCount();
   for (int i = 0; i < 400; ++i) {
     label.update(0.04F);
   }
-  EXPECT_EQ(before, allocations.load());
+  EXPECT_EQ(before, allocationCount());
 }
 
 TEST_F(MoonAllocation, IsCounted) {
-  const long before = allocations.load();
+  const long before = allocationCount();
   const std::string text(1000, 'x');
-  EXPECT_GT(allocations.load(), before) << text.size();
+  EXPECT_GT(allocationCount(), before) << text.size();
 }
 
 }  // namespace

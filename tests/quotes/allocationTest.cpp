@@ -1,32 +1,7 @@
 // A frame in which no text changes takes no memory: every allocation of the program is counted.
-#include <atomic>
-#include <cstdlib>
-#include <new>
-
+#include "harness/allocationCount.h"
 #include "quotes/quotesFixture.h"
 #include "quotes/quotesSprite.h"
-
-namespace {
-
-std::atomic<long> allocations{0};
-
-}  // namespace
-
-void* operator new(std::size_t size) {
-  ++allocations;
-  if (void* memory = std::malloc(size == 0 ? 1 : size)) {
-    return memory;
-  }
-  throw std::bad_alloc();
-}
-
-void operator delete(void* memory) noexcept {
-  std::free(memory);
-}
-
-void operator delete(void* memory, std::size_t) noexcept {
-  std::free(memory);
-}
 
 namespace {
 
@@ -47,11 +22,11 @@ TEST_F(QuotesLabelMemory, IsTakenOnlyWhenAQuoteBegins) {
   int quotes = 0;
   long atQuotes = 0;
   for (int i = 0; i < 2500; ++i) {
-    const long before = allocations.load();
+    const long before = allocationCount();
     const int asked = timesAsked;
     label.update(0.04F);
     label.draw();
-    const long taken = allocations.load() - before;
+    const long taken = allocationCount() - before;
     if (timesAsked != asked) {
       ++quotes;
       atQuotes += taken;

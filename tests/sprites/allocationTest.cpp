@@ -1,34 +1,9 @@
 // A text that stays the same is measured, moved and drawn without memory: every allocation of the program is
 // counted.
-#include <atomic>
-#include <cstdlib>
-#include <new>
-
+#include "harness/allocationCount.h"
 #include "spriteFixture.h"
 #include "sprites/spriteDirector.h"
 #include "sprites/spriteText.h"
-
-namespace {
-
-std::atomic<long> allocations{0};
-
-}  // namespace
-
-void* operator new(std::size_t size) {
-  ++allocations;
-  if (void* memory = std::malloc(size == 0 ? 1 : size)) {
-    return memory;
-  }
-  throw std::bad_alloc();
-}
-
-void operator delete(void* memory) noexcept {
-  std::free(memory);
-}
-
-void operator delete(void* memory, std::size_t) noexcept {
-  std::free(memory);
-}
 
 namespace {
 
@@ -44,11 +19,11 @@ class TextSpriteMemory : public SpriteCanvas {
   // What a hundred frames take after the first one, which fills the caches of fonts and glyphs.
   long takenByFrames() {
     runFrame(0);
-    const long before = allocations.load();
+    const long before = allocationCount();
     for (int i = 1; i <= 100; ++i) {
       runFrame(i);
     }
-    return allocations.load() - before;
+    return allocationCount() - before;
   }
 
   TorvSpriteText text{"t"};
@@ -84,9 +59,9 @@ TEST_F(TextSpriteMemory, IsNotTakenInAStyleOfItsOwn) {
 
 TEST_F(TextSpriteMemory, IsTakenForANewTextAndCounted) {
   takenByFrames();
-  const long before = allocations.load();
+  const long before = allocationCount();
   text.setText("a text that is new, and longer than the one that was there before it, and so takes memory");
-  EXPECT_GT(allocations.load(), before);
+  EXPECT_GT(allocationCount(), before);
 }
 
 }  // namespace

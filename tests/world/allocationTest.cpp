@@ -1,33 +1,9 @@
 // A frame takes no memory: every allocation of the program is counted.
-#include <atomic>
-#include <cstdlib>
-#include <new>
 #include <string>
 
+#include "harness/allocationCount.h"
 #include "oldTvFixture.h"
 #include "worldFixture.h"
-
-namespace {
-
-std::atomic<long> allocations{0};
-
-}  // namespace
-
-void* operator new(std::size_t size) {
-  ++allocations;
-  if (void* memory = std::malloc(size == 0 ? 1 : size)) {
-    return memory;
-  }
-  throw std::bad_alloc();
-}
-
-void operator delete(void* memory) noexcept {
-  std::free(memory);
-}
-
-void operator delete(void* memory, std::size_t) noexcept {
-  std::free(memory);
-}
 
 namespace {
 
@@ -39,21 +15,21 @@ TEST_F(World, TakesNoMemoryForAFrame) {
     world->initializeWorld();
     world->update(0.04F);
     world->draw();
-    const long before = allocations.load();
+    const long before = allocationCount();
     for (int i = 0; i < 100; ++i) {
       world->update(0.04F);
       world->draw();
     }
-    EXPECT_EQ(before, allocations.load()) << "background " << background;
+    EXPECT_EQ(before, allocationCount()) << "background " << background;
   }
 }
 
 TEST_F(OldTv, TakesNoMemoryForAFrame) {
   makeEffect(160, 120);
   effect->draw();  // shows the whole desktop, for which a list of parts may grow once
-  const long before = allocations.load();
+  const long before = allocationCount();
   EXPECT_EQ(25, framesToTheEnd());
-  EXPECT_EQ(before, allocations.load());
+  EXPECT_EQ(before, allocationCount());
 }
 
 // All the texts of a sky, and which message its stars are on.
@@ -82,12 +58,12 @@ TEST_F(World, OfEverythingTakesNoMemoryForAFrameInWhichNoTextChanges) {
   int quotes = 0;
   for (int i = 0; i < 60 * 25; ++i) {
     const Texts before(*world);
-    const long allocated = allocations.load();
+    const long allocated = allocationCount();
     world->update(0.04F);
     if (i % 10 == 0) {
       world->draw();
     }
-    const long taken = allocations.load() - allocated;
+    const long taken = allocationCount() - allocated;
     const Texts after(*world);
     quotes += before.quote != after.quote ? 1 : 0;
     if (before == after) {
@@ -100,9 +76,9 @@ TEST_F(World, OfEverythingTakesNoMemoryForAFrameInWhichNoTextChanges) {
 }
 
 TEST_F(World, IsBuiltOfMemoryThatIsCounted) {
-  const long before = allocations.load();
+  const long before = allocationCount();
   const auto world = makeWorld(160, 120);
-  EXPECT_GE(allocations.load() - before, static_cast<long>(TnoctisWorld::starCount));
+  EXPECT_GE(allocationCount() - before, static_cast<long>(TnoctisWorld::starCount));
 }
 
 }  // namespace
