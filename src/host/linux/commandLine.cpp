@@ -2,27 +2,31 @@
 #include "host/linux/commandLine.h"
 
 #include <algorithm>
-#include <charconv>
+#include <array>
 #include <string_view>
+
+#include "host/linux/optionValues.h"
 
 namespace {
 
-constexpr int largestSide = 16384;  // pixels; what a pixmap of the protocol can hold with room to spare
+using Mode = HostRequest::Mode;
 
-// A number that fills the whole text; nothing where it does not.
-std::optional<std::uint32_t> numberOf(std::string_view digits, int base) {
-  std::uint32_t number = 0;
-  const char* end = digits.data() + digits.size();
-  const auto [stop, error] = std::from_chars(digits.data(), end, number, base);
-  if (digits.empty() || error != std::errc{} || stop != end) {
-    return std::nullopt;
-  }
-  return number;
-}
+struct PlainMode {
+  std::string_view name;  // without its dashes
+  Mode mode;
+};
 
-std::optional<std::uint32_t> windowIdOf(std::string_view text) {
-  const bool isHexadecimal = text.starts_with("0x") || text.starts_with("0X");
-  return isHexadecimal ? numberOf(text.substr(2), 16) : numberOf(text, 10);
+// The options that are a mode and take no value.
+constexpr std::array plainModes{
+    PlainMode{"fullscreen", Mode::fullRun},
+    PlainMode{"configure", Mode::configuration},
+    PlainMode{"help", Mode::help},
+    PlainMode{"version", Mode::version},
+};
+
+// Whether a mode wins over every other, and over errors: it is an answer on its own.
+constexpr bool isAnswer(Mode mode) {
+  return mode == Mode::help || mode == Mode::version;
 }
 
 // Reads one command line from left to right.
@@ -46,8 +50,6 @@ class Reader {
   }
 
  private:
-  using Mode = HostRequest::Mode;
-
   void readOption(const std::string& argument) {
     if (argument == "/s") {
       setMode(Mode::fullRun);
@@ -79,17 +81,20 @@ class Reader {
     }
   }
 
-  bool readPlainOption(const std::string& name) {
-    if (name == "help" || name == "version") {
-      m_answer = name == "help" ? Mode::help : Mode::version;
-    } else if (name == "fullscreen") {
-      setMode(Mode::fullRun);
-    } else if (name == "configure") {
-      setMode(Mode::configuration);
-    } else if (name == "root") {
+  bool readPlainOption(std::string_view name) {
+    if (name == "root") {
       readRoot();
-    } else {
+      return true;
+    }
+    const auto* plain = std::find_if(plainModes.begin(), plainModes.end(),
+                                     [&](const PlainMode& candidate) { return candidate.name == name; });
+    if (plain == plainModes.end()) {
       return false;
+    }
+    if (isAnswer(plain->mode)) {
+      m_answer = plain->mode;
+    } else {
+      setMode(plain->mode);
     }
     return true;
   }
@@ -137,28 +142,21 @@ class Reader {
     if (!value) {
       return;
     }
-    const std::size_t times = std::min(value->find('x'), value->size());
-    const std::string_view sides = *value;
-    const int width = sideOf(sides.substr(0, times));
-    const int height = sideOf(sides.substr(std::min(times + 1, sides.size())));
-    if (width == 0 || height == 0) {
+    const auto size = windowSizeOf(*value);
+    if (!size) {
       failPlainly("'" + *value + "' is not a window size: give WIDTHxHEIGHT in pixels, each from 1 to " +
                   std::to_string(largestSide));
       return;
     }
-    m_request.width = width;
-    m_request.height = height;
+    m_request.width = size->width;
+    m_request.height = size->height;
   }
 
-  // 0 where the digits are no side of a window.
-  static int sideOf(std::string_view digits) {
-    const std::uint32_t side = numberOf(digits, 10).value_or(0);
-    return side <= static_cast<std::uint32_t>(largestSide) ? static_cast<int>(side) : 0;
-  }
   static bool startsWithDigit(const std::string& text) {
     return !text.empty() && text[0] >= '0' && text[0] <= '9';
   }
 
+  // What belongs to the mode before it is forgotten.
   void setMode(Mode mode) {
     m_request = {};
     m_request.mode = mode;
