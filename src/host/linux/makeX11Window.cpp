@@ -55,7 +55,7 @@ xcb_window_t makeOverWholeScreen(X11Connection& connection, const X11Facts& fact
   // No background: until the first frame the window shows what was there before.
   constexpr std::uint32_t events = XCB_EVENT_MASK_KEY_PRESS | XCB_EVENT_MASK_BUTTON_PRESS |
                                    XCB_EVENT_MASK_POINTER_MOTION | XCB_EVENT_MASK_EXPOSURE |
-                                   XCB_EVENT_MASK_STRUCTURE_NOTIFY;
+                                   XCB_EVENT_MASK_STRUCTURE_NOTIFY | XCB_EVENT_MASK_VISIBILITY_CHANGE;
   const std::uint32_t values[] = {XCB_GRAVITY_NORTH_WEST, 1, events, cursor};
   xcb_create_window(
       connection.get(), XCB_COPY_FROM_PARENT, window, screen.root, 0, 0,
@@ -99,8 +99,8 @@ xcb_atom_t askToBeTold(X11Connection& connection, xcb_window_t window) {
 xcb_window_t makeOrdinary(X11Connection& connection, int width, int height) {
   const xcb_screen_t& screen = connection.screen();
   const xcb_window_t window = xcb_generate_id(connection.get());
-  constexpr std::uint32_t events =
-      XCB_EVENT_MASK_KEY_PRESS | XCB_EVENT_MASK_EXPOSURE | XCB_EVENT_MASK_STRUCTURE_NOTIFY;
+  constexpr std::uint32_t events = XCB_EVENT_MASK_KEY_PRESS | XCB_EVENT_MASK_EXPOSURE |
+                                   XCB_EVENT_MASK_STRUCTURE_NOTIFY | XCB_EVENT_MASK_VISIBILITY_CHANGE;
   const std::uint32_t values[] = {screen.black_pixel, XCB_GRAVITY_NORTH_WEST, events};
   xcb_create_window(connection.get(), XCB_COPY_FROM_PARENT, window, screen.root, 0, 0,
                     static_cast<std::uint16_t>(width), static_cast<std::uint16_t>(height), 0,
@@ -126,7 +126,8 @@ X11Window::Description takeForeign(X11Connection& connection, const X11Facts& fa
                       " takes input only and shows nothing: give the id of one that can be drawn on");
   }
   // Only what any number of programs may ask of one window.
-  const std::uint32_t events = XCB_EVENT_MASK_STRUCTURE_NOTIFY | XCB_EVENT_MASK_EXPOSURE;
+  const std::uint32_t events =
+      XCB_EVENT_MASK_STRUCTURE_NOTIFY | XCB_EVENT_MASK_EXPOSURE | XCB_EVENT_MASK_VISIBILITY_CHANGE;
   xcb_change_window_attributes(connection.get(), id, XCB_CW_EVENT_MASK, &events);
   const xplEdges place{window.x, window.y, window.x + window.width, window.y + window.height};
   return {.kind = WindowKind::foreign,

@@ -12,6 +12,11 @@ namespace {
 
 MessagePump* currentPump = nullptr;
 
+// While nobody sees the window.
+constexpr int unseenPeriod = 1000;  // milliseconds between two looks at the timers
+constexpr std::uint64_t unseenTicks =
+    25;  // that long a time of the saver's own timer, and no more after a pause
+
 }  // namespace
 
 MessagePump::MessagePump(xplWindowHandle window, WindowKind kind, Procedure procedure)
@@ -35,9 +40,10 @@ void MessagePump::post(UINT message, WPARAM wParam, LPARAM lParam) {
   m_messages.push_back({message, wParam, lParam});
 }
 
-void MessagePump::collectTicks() {
+void MessagePump::collectTicks(std::uint64_t most) {
   for (const auto& timer : windowTimers().all()) {
-    if (timer.hasTicked()) {
+    const std::uint64_t ticks = std::min(timer.periodsPassed(), most);
+    for (std::uint64_t i = 0; i < ticks; ++i) {
       post(WM_TIMER, timer.id);
     }
   }
@@ -95,20 +101,23 @@ bool MessagePump::waitAndCall(const DisplayLink& display, int milliseconds) {
   for (const auto& watch : m_watches) {
     waits.push_back({watch.descriptor, POLLIN, 0});
   }
+  const std::size_t watches = waits.size();
+  const bool isSeen = display.isSeen();
   for (const auto& timer : windowTimers().all()) {
-    waits.push_back({timer.descriptor.get(), POLLIN, 0});
+    if (isSeen) {
+      waits.push_back({timer.descriptor.get(), POLLIN, 0});
+    }
   }
-  if (::poll(waits.data(), waits.size(), milliseconds) <= 0) {
-    return false;
-  }
-  const std::size_t watches = m_watches.size();
-  for (std::size_t i = 1; i <= watches; ++i) {
+  const bool isReady = ::poll(waits.data(), waits.size(), isSeen ? milliseconds : unseenPeriod) > 0;
+  for (std::size_t i = 1; isReady && i < watches; ++i) {
     if (waits[i].revents != 0) {
       callWatch(waits[i].fd);
     }
   }
-  collectTicks();
-  return true;
+  if (isReady || !isSeen) {
+    collectTicks(isSeen ? 1 : unseenTicks);
+  }
+  return isReady;
 }
 
 void MessagePump::callWatch(int descriptor) {

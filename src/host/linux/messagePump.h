@@ -20,6 +20,11 @@ class DisplayLink {
   virtual void collect() = 0;
   // False while the display still reads the last frame; what ends that makes the descriptor readable.
   virtual bool mayPaint() = 0;
+  // False while nobody can see the window. The pump then does not wake for its timers: it looks at them once
+  // a second, and hands out the ticks of that second together, so that the sky goes on, the hours strike and
+  // what is timed ends, at next to no cost. What ends that makes the descriptor readable. mayPaint() is false
+  // as long as this is.
+  virtual bool isSeen() const { return true; }
   // Sends what is still on its way to the display.
   virtual void flush() = 0;
 };
@@ -85,8 +90,9 @@ class MessagePump {
   // Waits until something can be read, for at most so many milliseconds (-1: for ever). True when it was.
   bool waitAndCall(const DisplayLink& display, int milliseconds);
   void callWatch(int descriptor);
-  // Posts a WM_TIMER for each timer that has ticked.
-  void collectTicks();
+  // Posts WM_TIMER for each timer that has ticked: one for all its periods, or one for each of them, but
+  // never more than `most`.
+  void collectTicks(std::uint64_t most);
 
   xplWindowHandle m_window;
   WindowKind m_kind;

@@ -27,7 +27,7 @@ void runMessages(X11Connection& connection, StopSignals& signals, X11Window& win
                  const X11Facts& facts) {
   try {
     pump.send(WM_CREATE);
-    X11Link link(connection, signals, window, pump);
+    X11Link link(connection, signals, window, pump, facts);
     // Where the pointer stands now: it ends the run when it leaves this place.
     pump.post(WM_MOUSEMOVE, 0,
               static_cast<LPARAM>((facts.pointerX & 0xFFFF) | (facts.pointerY & 0xFFFF) << 16));

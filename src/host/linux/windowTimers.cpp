@@ -23,9 +23,11 @@ void WindowTimers::stop(std::uintptr_t id) {
   std::erase_if(m_timers, [id](const Timer& timer) { return timer.id == id; });
 }
 
-bool WindowTimers::Timer::hasTicked() const {
+std::uint64_t WindowTimers::Timer::periodsPassed() const {
   std::uint64_t periods = 0;
-  return ::read(descriptor.get(), &periods, sizeof periods) == static_cast<ssize_t>(sizeof periods);
+  const bool isRead =
+      ::read(descriptor.get(), &periods, sizeof periods) == static_cast<ssize_t>(sizeof periods);
+  return isRead ? periods : 0;
 }
 
 WindowTimers& windowTimers() {

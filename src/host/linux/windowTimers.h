@@ -16,8 +16,9 @@ class WindowTimers {
   struct Timer {
     std::uintptr_t id;
     FileDescriptor descriptor;
-    // True when at least one period has passed since the last look, however many they were.
-    bool hasTicked() const;
+    // How many periods have passed since the last look; both calls are looks.
+    std::uint64_t periodsPassed() const;
+    bool hasTicked() const { return periodsPassed() > 0; }
   };
   const std::vector<Timer>& all() const { return m_timers; }
 

@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include <xcb/bigreq.h>
+#include <xcb/dpms.h>
 #include <xcb/randr.h>
 #include <xcb/shm.h>
 
@@ -23,6 +24,7 @@ struct BasicQuestions {
   BasicQuestions(xcb_connection_t* c, xcb_window_t root, xcb_window_t window) {
     xcb_prefetch_extension_data(c, &xcb_randr_id);
     xcb_prefetch_extension_data(c, &xcb_shm_id);
+    xcb_prefetch_extension_data(c, &xcb_dpms_id);
     xcb_prefetch_maximum_request_length(c);
     geometryOfRoot = xcb_get_geometry(c, root);
     constexpr std::uint32_t most = 16384;  // words
@@ -87,11 +89,32 @@ std::vector<xplEdges> monitorsOf(const xcb_randr_get_monitors_reply_t* reply) {
   return monitors;
 }
 
+std::optional<xcb_dpms_get_version_cookie_t> askPower(xcb_connection_t* c) {
+  const auto* power = xcb_get_extension_data(c, &xcb_dpms_id);
+  if (power == nullptr || power->present == 0) {
+    return std::nullopt;
+  }
+  return xcb_dpms_get_version(c, 1, 2);
+}
+
+std::optional<X11Facts::PowerManagement> hearPower(X11Connection& connection,
+                                                   std::optional<xcb_dpms_get_version_cookie_t> asked) {
+  const auto version = asked ? connection.await<xcb_dpms_get_version_reply_t>(*asked) : nullptr;
+  if (!version) {
+    return std::nullopt;
+  }
+  const int major = version->server_major_version;
+  const bool tells = major > 1 || (major == 1 && version->server_minor_version >= 2);
+  return X11Facts::PowerManagement{xcb_get_extension_data(connection.get(), &xcb_dpms_id)->major_opcode,
+                                   tells};
+}
+
 // The second questions: they need to know whether the display has these extensions.
 void askExtensions(X11Connection& connection, xcb_window_t root, X11Facts& facts) {
   xcb_connection_t* c = connection.get();
   const auto* randr = xcb_get_extension_data(c, &xcb_randr_id);
   const auto* sharing = xcb_get_extension_data(c, &xcb_shm_id);
+  const auto powerAsked = askPower(c);
   const bool hasRandr = randr != nullptr && randr->present != 0;
   const bool hasSharing =
       sharing != nullptr && sharing->present != 0 && connection.isLocal() && sharedMemoryIsWanted();
@@ -110,6 +133,7 @@ void askExtensions(X11Connection& connection, xcb_window_t root, X11Facts& facts
     // A display older than this question answers with an error: no monitors.
     facts.monitors = monitorsOf(connection.await<xcb_randr_get_monitors_reply_t>(monitors).get());
   }
+  facts.power = hearPower(connection, powerAsked);
   if (hasSharing) {
     const auto version = connection.await<xcb_shm_query_version_reply_t>(sharingVersion);
     const bool takesFiles = version && (version->major_version > 1 || version->minor_version >= 2);

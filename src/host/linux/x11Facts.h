@@ -30,6 +30,13 @@ struct X11Facts {
   // The event by which the display says that it has read a frame; nothing where it takes no shared memory.
   std::optional<std::uint8_t> frameReadEvent;
 
+  // What the display offers to tell of its power management (DPMS).
+  struct PowerManagement {
+    std::uint8_t opcode = 0;  // of its requests and events
+    bool tells = false;       // it tells of each change; an older one must be asked
+  };
+  std::optional<PowerManagement> power;  // nothing where the display has none
+
   // window: the window of another program that is asked about, 0 for none.
   static X11Facts collect(X11Connection& connection, xcb_window_t window);
 };

@@ -1,15 +1,9 @@
 // Implements the translation of X events and errors into window messages.
 #include "host/linux/x11Link.h"
 
-#include "host/linux/keys.h"
 #include "support/log.h"
 
 namespace {
-
-// The protocol's numbers for two keys' letters.
-constexpr xcb_keysym_t symbolEscape = 0xFF1B;
-constexpr xcb_keysym_t symbolQ = 'q';
-constexpr xcb_keysym_t symbolCapitalQ = 'Q';
 
 // Events of this kind, sent by another program, carry this bit.
 constexpr std::uint8_t sentMark = 0x80;
@@ -21,11 +15,14 @@ const Event& as(const xcb_generic_event_t& event) {
 
 }  // namespace
 
-X11Link::X11Link(X11Connection& connection, StopSignals& signals, X11Window& window, MessagePump& pump)
+X11Link::X11Link(X11Connection& connection, StopSignals& signals, X11Window& window, MessagePump& pump,
+                 const X11Facts& facts)
     : m_connection(connection),
       m_signals(signals),
       m_window(window),
       m_pump(pump),
+      m_power(connection, pump, facts.power),
+      m_sight(window.windowId()),
       m_windowWidth(window.rectangle().right),
       m_windowHeight(window.rectangle().bottom) {
   // Reading the signals is collect()'s; the watch only wakes the pump.
@@ -36,13 +33,9 @@ X11Link::X11Link(X11Connection& connection, StopSignals& signals, X11Window& win
       m_grab = std::make_unique<InputGrab>(connection, window.windowId(), pump);
       m_grab->start();
       break;
-    case WindowKind::ordinary: {
-      const xcb_setup_t& setup = connection.setup();
-      m_keysAsked =
-          xcb_get_keyboard_mapping(connection.get(), setup.min_keycode,
-                                   static_cast<std::uint8_t>(setup.max_keycode - setup.min_keycode + 1));
+    case WindowKind::ordinary:
+      m_keys = std::make_unique<X11Keys>(connection);
       break;
-    }
     case WindowKind::foreign:
       // It may be on the screen already, and then is not told to be exposed.
       eraseOnce();
@@ -66,6 +59,8 @@ void X11Link::collect() {
   if (m_grab) {
     m_grab->collect();
   }
+  m_power.collect();
+  noteSight();
   if (!m_connection.isUsable()) {
     m_window.forget();
     m_pump.windowIsGone("the display " + m_connection.displayName() +
@@ -78,7 +73,27 @@ void X11Link::collect() {
 }
 
 bool X11Link::mayPaint() {
-  return m_window.presenter().isRead();
+  return isSeen() && m_window.presenter().isRead();
+}
+
+bool X11Link::isSeen() const {
+  return m_power.isOn() && m_sight.isSeen();
+}
+
+void X11Link::noteSight() {
+  if (m_wasSeen == isSeen()) {
+    return;
+  }
+  m_wasSeen = !m_wasSeen;
+  if (m_wasSeen) {
+    logInfo().add("The window can be seen again: it is drawn on");
+    // The display may have let go of what it showed.
+    m_window.loseContent();
+    m_pump.invalidate();
+  } else {
+    logInfo().add(m_power.isOn() ? "The window is covered: drawing waits"
+                                 : "The display is switched off: drawing waits");
+  }
 }
 
 void X11Link::flush() {
@@ -86,7 +101,7 @@ void X11Link::flush() {
 }
 
 void X11Link::translate(const xcb_generic_event_t& event) {
-  if (m_window.presenter().hear(event)) {
+  if (m_window.presenter().hear(event) || m_power.hear(event) || m_sight.hear(event)) {
     return;
   }
   switch (event.response_type & ~sentMark) {
@@ -179,17 +194,5 @@ void X11Link::postButton(xcb_button_t button) {
 }
 
 void X11Link::postKey(xcb_keycode_t key) {
-  if (m_window.kind() == WindowKind::ordinary && !m_keys) {
-    m_keys = m_connection.await<xcb_get_keyboard_mapping_reply_t>(m_keysAsked);
-  }
-  WPARAM name = 0;
-  if (m_keys) {
-    const int width = m_keys->keysyms_per_keycode;
-    const int first = (key - m_connection.setup().min_keycode) * width;
-    const bool isListed =
-        width > 0 && first >= 0 && first < xcb_get_keyboard_mapping_keysyms_length(m_keys.get());
-    const xcb_keysym_t symbol = isListed ? xcb_get_keyboard_mapping_keysyms(m_keys.get())[first] : 0;
-    name = symbol == symbolEscape ? keyEscape : symbol == symbolQ || symbol == symbolCapitalQ ? keyQ : 0;
-  }
-  m_pump.post(WM_KEYDOWN, name);
+  m_pump.post(WM_KEYDOWN, m_keys ? m_keys->nameOf(key) : WPARAM{0});
 }

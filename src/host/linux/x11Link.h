@@ -3,15 +3,19 @@
 
 #include <memory>
 
+#include "host/linux/displayPower.h"
 #include "host/linux/inputGrab.h"
 #include "host/linux/messagePump.h"
 #include "host/linux/stopSignals.h"
+#include "host/linux/windowSight.h"
+#include "host/linux/x11Keys.h"
 #include "host/linux/x11Window.h"
 
 class X11Link : public DisplayLink {
  public:
   // All borrowed. Puts the window on the screen and, for the full run, takes keyboard and pointer.
-  X11Link(X11Connection& connection, StopSignals& signals, X11Window& window, MessagePump& pump);
+  X11Link(X11Connection& connection, StopSignals& signals, X11Window& window, MessagePump& pump,
+          const X11Facts& facts);
   ~X11Link() override;
   X11Link(const X11Link&) = delete;
   X11Link& operator=(const X11Link&) = delete;
@@ -19,6 +23,7 @@ class X11Link : public DisplayLink {
   int descriptor() const override;
   void collect() override;
   bool mayPaint() override;
+  bool isSeen() const override;
   void flush() override;
 
  private:
@@ -33,14 +38,18 @@ class X11Link : public DisplayLink {
   void postKey(xcb_keycode_t key);
   void postButton(xcb_button_t button);
   void eraseOnce();
+  // Tells the log, and draws again, where the window has become seen or unseen.
+  void noteSight();
 
   X11Connection& m_connection;
   StopSignals& m_signals;
   X11Window& m_window;
   MessagePump& m_pump;
   std::unique_ptr<InputGrab> m_grab;  // the full run's
-  xcb_get_keyboard_mapping_cookie_t m_keysAsked{};
-  X11Reply<xcb_get_keyboard_mapping_reply_t> m_keys;  // the ordinary window's, once a key was pressed
+  std::unique_ptr<X11Keys> m_keys;    // the ordinary window's
+  DisplayPower m_power;
+  WindowSight m_sight;
+  bool m_wasSeen = true;
   bool m_isErased = false;
   bool m_isStopping = false;
   int m_windowWidth;  // as the display told last

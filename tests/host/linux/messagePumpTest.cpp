@@ -1,4 +1,6 @@
 // Tests the order in which the pump hands out messages.
+#include <algorithm>
+
 #include <gtest/gtest.h>
 #include <poll.h>
 #include <sys/eventfd.h>
@@ -22,13 +24,15 @@ class QuietDisplay : public DisplayLink {
       onCollect();
     }
   }
-  bool mayPaint() override { return isShown; }
+  bool mayPaint() override { return isShown && !isHidden; }
+  bool isSeen() const override { return !isHidden; }
   void flush() override { ++flushes; }
   // The display has something to say.
   void wake() { ::eventfd_write(m_wake.get(), 1); }
 
   std::function<void()> onCollect;
   bool isShown = true;
+  bool isHidden = false;
   int flushes = 0;
 
  private:
@@ -197,6 +201,66 @@ TEST_F(MessagePumpTest, ATickThatWaitsComesBeforeThePaint) {
   };
   runUntil(WM_PAINT);
   EXPECT_EQ(messages(), (std::vector<UINT>{WM_TIMER, WM_PAINT}));
+}
+
+TEST_F(MessagePumpTest, NothingIsPaintedThatNobodySees) {
+  display.isHidden = true;
+  windowTimers().start(1, 40);
+  pump.invalidate();
+  onMessage = [this](UINT message) {
+    if (message == WM_TIMER) {
+      pump.post(WM_CLOSE);
+    }
+  };
+  runUntil(WM_CLOSE);
+  EXPECT_EQ(std::count(handled.begin(), handled.end(), Handled{WM_PAINT, 0, 0}), 0);
+}
+
+TEST_F(MessagePumpTest, UnseenTheTicksOfASecondComeTogether) {
+  display.isHidden = true;
+  windowTimers().start(1, 100);
+  int looks = 0;
+  display.onCollect = [&] { looks += handled.empty() ? 1 : 0; };
+  onMessage = [this](UINT message) {
+    if (message == WM_TIMER) {
+      pump.post(WM_CLOSE);
+    }
+  };
+  runUntil(WM_CLOSE);
+  // Ten periods pass in the second, and a slow machine may see the eleventh.
+  EXPECT_GE(std::count(handled.begin(), handled.end(), Handled{WM_TIMER, 1, 0}), 9);
+  EXPECT_LE(looks, 2) << "it woke before the second was over";
+}
+
+TEST_F(MessagePumpTest, UnseenAPauseIsNotCaughtUp) {
+  display.isHidden = true;
+  windowTimers().start(1, 1);
+  ::poll(nullptr, 0, 60);  // as when the process was stopped
+  display.wake();
+  onMessage = [this](UINT message) {
+    if (message == WM_TIMER) {
+      windowTimers().stop(1);
+      pump.post(WM_CLOSE);
+    }
+  };
+  runUntil(WM_CLOSE);
+  EXPECT_EQ(std::count(handled.begin(), handled.end(), Handled{WM_TIMER, 1, 0}), 25);
+}
+
+TEST_F(MessagePumpTest, SeenAgainItPaintsAtOnce) {
+  display.isHidden = true;
+  windowTimers().start(1, 5);
+  int ticks = 0;
+  onMessage = [&](UINT message) {
+    if (message == WM_TIMER && ++ticks == 3) {
+      windowTimers().stop(1);
+      display.isHidden = false;
+      pump.invalidate();
+    }
+  };
+  runUntil(WM_PAINT);
+  EXPECT_EQ(handled.back(), (Handled{WM_PAINT, 0, 0}));
+  EXPECT_GE(ticks, 3);
 }
 
 TEST_F(MessagePumpTest, AStoppedTimerTicksNoMore) {
