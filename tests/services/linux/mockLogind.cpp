@@ -79,6 +79,11 @@ bool MockLogind::isFree() {
   return hear() == "yes";
 }
 
+bool MockLogind::holdsOne() {
+  tell("one\n");
+  return hear() == "yes";
+}
+
 void MockLogind::tell(const char* line) {
   std::fputs(line, m_input);
   std::fflush(m_input);

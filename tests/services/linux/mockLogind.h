@@ -23,6 +23,8 @@ class MockLogind {
   std::vector<std::string> inhibitors();
   // True when none is held; waits for it a while.
   bool isFree();
+  // True once a single inhibitor is held, within the same time.
+  bool holdsOne();
 
  private:
   void tell(const char* line);

@@ -1,7 +1,7 @@
 # A system bus of the test's own with a logind that only remembers what it is asked.
 # Usage: mockLogind.py grant|refuse|late|none. Prints the bus's address, then answers the lines of standard input:
-# "list" with the inhibitors that are held, one a line, and a dot; "empty" with "yes" once none is held. Ends with its
-# input.
+# "list" with the inhibitors that are held, one a line, and a dot; "empty" with "yes" once none is held, "one" with "yes"
+# once a single one is. Ends with its input.
 import os
 import subprocess
 import sys
@@ -37,9 +37,9 @@ def inhibitors(logind):
     return logind.ListInhibitors(dbus_interface=LOGIND[2])
 
 
-def is_empty(logind, seconds):
+def comes_to_hold(logind, count, seconds):
     end = time.monotonic() + seconds
-    while inhibitors(logind):
+    while len(inhibitors(logind)) != count:
         if time.monotonic() > end:
             return False
         time.sleep(0.01)
@@ -51,8 +51,8 @@ def answer(logind, line):
         for what, who, why, mode, *_ in inhibitors(logind):
             say(f"{what}|{who}|{why}|{mode}")
         say(".")
-    elif line == "empty":
-        say("yes" if is_empty(logind, 5) else "no")
+    elif line in ("empty", "one"):
+        say("yes" if comes_to_hold(logind, 0 if line == "empty" else 1, 5) else "no")
 
 
 def main():
