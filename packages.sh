@@ -8,7 +8,7 @@ build_packages=(g++ cmake ninja-build pkg-config libxcb1-dev libxcb-shm0-dev lib
 package_packages=(dpkg-dev gzip)
 test_packages=("${package_packages[@]}" googletest libbenchmark-dev g++-mingw-w64-x86-64-posix wine wine64 xvfb
   xdotool x11-utils x11-xserver-utils imagemagick fonts-dejavu-core clang-format clang-tidy procps tzdata
-  dbus-daemon python3-dbusmock desktop-file-utils
+  dbus-daemon python3-dbusmock pulseaudio pulseaudio-utils desktop-file-utils
   lintian appstream libxml2-utils man-db fakeroot xscreensaver-data)
 
 # missing_packages PACKAGE...: prints those that are not installed.

@@ -1,7 +1,6 @@
 // Implements the thread that starts and ends sounds.
 #include "services/linux/soundWorker.h"
 
-#include <atomic>
 #include <condition_variable>
 #include <exception>
 #include <functional>
@@ -18,6 +17,7 @@ struct SoundWorker::State {
   std::optional<Order> order;  // the last one given, until the thread takes it
   bool soundIsOver = false;    // the one that plays has come to its end
   bool isSilent = true;
+  bool isStarting = false;  // the thread waits for the sound system to take a sound
   bool shallEnd = false;
   bool hasEnded = false;
   std::string failure;
@@ -25,11 +25,35 @@ struct SoundWorker::State {
 
 namespace {
 
-// A worker that was left behind still holds the sound system. No second one goes near it: the rest of the run
-// is silent.
-std::atomic<bool>& systemIsLost() {
-  static std::atomic<bool> lost{false};
-  return lost;
+// How long a sound waits for the worker before it. The sound system ends one in a tenth of a second or two.
+constexpr std::chrono::milliseconds patience{2000};
+
+// The sound system, which takes one sound at a time. A worker that was left behind holds it until its sound
+// has ended, and for good where it never does.
+class SoundSystem {
+ public:
+  // False where another worker still holds it after `patience`.
+  bool take() {
+    std::unique_lock lock(m_mutex);
+    const bool isFree = m_freed.wait_for(lock, patience, [this] { return !m_isTaken; });
+    m_isTaken = true;
+    return isFree;
+  }
+  void giveBack() {
+    const std::lock_guard lock(m_mutex);
+    m_isTaken = false;
+    m_freed.notify_one();
+  }
+
+ private:
+  std::mutex m_mutex;
+  std::condition_variable m_freed;
+  bool m_isTaken = false;
+};
+
+std::shared_ptr<SoundSystem> soundSystem() {
+  static const auto system = std::make_shared<SoundSystem>();
+  return system;
 }
 
 std::weak_ptr<SoundWorker>& current() {
@@ -37,19 +61,40 @@ std::weak_ptr<SoundWorker>& current() {
   return worker;
 }
 
-std::unique_ptr<SdlSound> start(std::span<const std::uint8_t> wave, bool loop, std::function<void()> whenOver,
-                                std::string& failure) {
-  if (systemIsLost()) {
-    failure = "the sound system does not answer";
-    return nullptr;
+// What a worker's thread plays.
+class ThreadsSound {
+ public:
+  ThreadsSound() = default;
+  ~ThreadsSound() {
+    end();
+    if (m_holdsSystem) {
+      m_system->giveBack();
+    }
   }
-  try {
-    return std::make_unique<SdlSound>(wave, loop, std::move(whenOver));
-  } catch (const std::exception& error) {
-    failure = error.what();
-    return nullptr;
+  ThreadsSound(const ThreadsSound&) = delete;
+  ThreadsSound& operator=(const ThreadsSound&) = delete;
+
+  bool isSilent() const { return !m_sound; }
+  void end() { m_sound.reset(); }
+  // Returns why the sound does not play; empty where it does.
+  std::string start(std::span<const std::uint8_t> wave, bool loop, std::function<void()> whenOver) {
+    m_holdsSystem = m_holdsSystem || m_system->take();
+    if (!m_holdsSystem) {
+      return "the sound system does not answer";
+    }
+    try {
+      m_sound = std::make_unique<SdlSound>(wave, loop, std::move(whenOver));
+      return {};
+    } catch (const std::exception& error) {
+      return error.what();
+    }
   }
-}
+
+ private:
+  std::shared_ptr<SoundSystem> m_system = soundSystem();  // the thread may outlive the process's statics
+  bool m_holdsSystem = false;                             // from the first sound on
+  std::unique_ptr<SdlSound> m_sound;
+};
 
 }  // namespace
 
@@ -73,14 +118,16 @@ SoundWorker::~SoundWorker() {
   std::unique_lock lock(m_state->mutex);
   m_state->shallEnd = true;
   m_state->changed.notify_all();
-  const bool ended = m_state->changed.wait_for(lock, longestEnd, [this] { return m_state->hasEnded; });
-  lock.unlock();
-  if (ended) {
+  if (m_state->changed.wait_for(lock, longestEnd, [this] { return m_state->hasEnded; })) {
+    lock.unlock();
     m_thread.join();
-  } else {
-    systemIsLost() = true;
-    logInfo().add("silent: the sound system does not answer and is left behind");
-    m_thread.detach();
+    return;
+  }
+  const bool isStarting = m_state->isStarting;
+  lock.unlock();
+  m_thread.detach();
+  if (isStarting) {
+    logInfo().add("silent: the sound system does not answer");
   }
 }
 
@@ -115,7 +162,7 @@ void SoundWorker::work(const std::shared_ptr<State>& state) {
     state.soundIsOver = true;
     state.changed.notify_all();
   };
-  std::unique_ptr<SdlSound> sound;
+  std::optional<ThreadsSound> sound(std::in_place);
   std::unique_lock lock(state->mutex);
   for (;;) {
     state->changed.wait(lock, [&] { return state->shallEnd || state->order || state->soundIsOver; });
@@ -124,17 +171,19 @@ void SoundWorker::work(const std::shared_ptr<State>& state) {
     }
     const Order order = std::exchange(state->order, std::nullopt).value_or(Order{});
     lock.unlock();
-    sound.reset();
+    sound->end();
     lock.lock();
     state->soundIsOver = false;
+    state->isStarting = !order.wave.empty();
     lock.unlock();
     std::string failure;
     if (!order.wave.empty()) {
-      sound = start(order.wave, order.loop, whenOver, failure);
+      failure = sound->start(order.wave, order.loop, whenOver);
     }
     lock.lock();
     state->failure = std::move(failure);
-    state->isSilent = !sound && !state->order;
+    state->isStarting = false;
+    state->isSilent = sound->isSilent() && !state->order;
     state->changed.notify_all();
   }
   lock.unlock();

@@ -12,8 +12,9 @@ class SoundWorker {
  public:
   // Starts the thread. Throws std::system_error where there is none to be had.
   SoundWorker();
-  // Ends the sound and the thread. A thread that the sound system does not let go is left behind after
-  // longestEnd.
+  // Ends the sound, which is silent at once, and the thread. Sound systems take a tenth of a second or more
+  // to close a device, and some never do; nobody waits longer than longestEnd for it. The thread then goes on
+  // by itself, until it has ended or the process has; the next worker's first sound waits for it.
   ~SoundWorker();
   SoundWorker(const SoundWorker&) = delete;
   SoundWorker& operator=(const SoundWorker&) = delete;
@@ -34,7 +35,7 @@ class SoundWorker {
   // Why the last sound did not play; empty where it did. Forgets it.
   std::string takeFailure();
 
-  static constexpr std::chrono::milliseconds longestEnd{250};
+  static constexpr std::chrono::milliseconds longestEnd{20};
 
  private:
   struct Order {

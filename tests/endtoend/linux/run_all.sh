@@ -8,7 +8,22 @@ shift
 for tool in Xvfb xsetroot xdotool import display convert xwininfo xprop xrandr xrdb; do
   command -v "$tool" >/dev/null || { echo "no $tool: install xvfb, xdotool, imagemagick, x11-utils and x11-xserver-utils" >&2; exit 1; }
 done
-[ $# -gt 0 ] || set -- commandline configure fullrun startup preview signals displays environments power window resources services
+scripts=(
+  commandline
+  configure
+  fullrun
+  startup
+  preview
+  signals
+  displays
+  environments
+  power
+  window
+  resources
+  services
+  sound_server
+)
+[ $# -gt 0 ] || set -- "${scripts[@]}"
 passed=0
 failed=0
 for script in "$@"; do

@@ -2,10 +2,12 @@
 #include "services/linux/audible.h"
 
 #include <algorithm>
+#include <chrono>
 #include <cmath>
 #include <cstddef>
 #include <filesystem>
 #include <iterator>
+#include <thread>
 
 #include "resources/waveFile.h"
 #include "support/fileSystem.h"
@@ -45,4 +47,15 @@ bool Audible::isSilentFrom(const std::vector<std::uint8_t>& played, std::size_t 
 std::size_t Audible::threadCount() {
   return static_cast<std::size_t>(std::distance(std::filesystem::directory_iterator("/proc/self/task"),
                                                 std::filesystem::directory_iterator()));
+}
+
+bool Audible::threadsComeDownTo(std::size_t count) {
+  constexpr int attempts = 10'000;
+  for (int i = 0; threadCount() != count; ++i) {
+    if (i == attempts) {
+      return false;
+    }
+    std::this_thread::sleep_for(std::chrono::milliseconds(1));  // nobody tells of the end of such a thread
+  }
+  return true;
 }

@@ -175,7 +175,23 @@ TEST_F(SoundOutputOfLinux, ItsThreadsGoWithIt) {
     EXPECT_GT(threadCount(), before);
     pipe.readToEnd();
   }
-  EXPECT_EQ(threadCount(), before);
+  EXPECT_TRUE(threadsComeDownTo(before));
+}
+
+TEST_F(SoundOutputOfLinux, ASoundWaitsForTheOneThatWasLeftToEnd) {
+  SoundPipe first(newPath());
+  auto output = xplMakeSoundOutput();
+  output->play(112, true);
+  first.open();
+  first.read(1'000);
+  output.reset();  // the worker goes, and its sound may still be ending
+  output = xplMakeSoundOutput();
+  SoundPipe second(newPath());
+  output->play(111, false);
+  first.readToEnd();
+  second.open();
+  EXPECT_TRUE(isSoundAlone(second.readToEnd(), soundOf(111), silenceOf(111)));
+  EXPECT_EQ(countEntriesWith("silent"), 0);
 }
 
 }  // namespace
