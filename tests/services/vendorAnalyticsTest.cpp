@@ -94,6 +94,23 @@ TEST_F(Vendor, PassesWideTexts) {
   EXPECT_EQ(library.takeErrors(), "");
 }
 
+// The character is an e with an acute accent: of two bytes on Linux, of one in the code page of western
+// Windows.
+TEST_F(Vendor, TextsBeyondAsciiAreWidened) {
+  const std::wstring wide = xplWiden("caf\xC3\xA9");
+  const bool isUtf8 = wide == L"caf\u00E9";
+  const bool isCodePage1252 = wide == L"caf\u00C3\u00A9";
+  EXPECT_TRUE(isUtf8 || isCodePage1252) << testing::PrintToString(wide);
+}
+
+TEST_F(Vendor, AMalformedTextIsWidenedToItsEnd) {
+  const std::wstring wide = xplWiden(std::string("a\xFF\0b", 4));
+  ASSERT_EQ(wide.size(), 4U);
+  EXPECT_EQ(wide[0], L'a');
+  EXPECT_EQ(wide[2], L'\0');
+  EXPECT_EQ(wide[3], L'b');
+}
+
 TEST_F(Vendor, TellsTheResultForThePath) {
   auto library = make();
   answer() = -11;

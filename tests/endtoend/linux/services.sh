@@ -121,7 +121,15 @@ end_saver
 check "a time that is over switches itself off" grep -qx 'preventComputerSleep=0' "$settings/Lunaria screensaver.ini"
 
 # A run of half a minute is reported, into a file and nowhere else.
+# Beside it runs one whose folder has a library in the vendor's place.
 set_up snd_selectedSound=0
+mkdir -m 755 "$work/program"
+mkdir -m 700 "$work/elsewhere"
+cp "$lunaria" "$work/program/lunaria"
+cp "$bin/../tests/services/libtrackerbird_recorder.so" "$work/program/libTrackerbird.so"
+HOME=$work/elsewhere TMPDIR=$work/elsewhere "$work/program/lunaria" /s >"$work/vendor.out" 2>&1 &
+with_vendor=$!
+servers+=("$with_vendor")
 start_and_see root /s
 usage=$HOME/.local/share/"Lunaria software"/usage.txt
 check "nothing is reported at first" test ! -e "$usage"
@@ -132,4 +140,11 @@ same "one line" 1 "$(wc -l <"$usage")"
 same "nothing is connected to the network" "" "$(find /proc/"$saver"/fd -lname 'socket:*' -printf '%l\n' |
   tr -dc '0-9\n' | grep -xFf - <(awk 'NR > 1 {print $10}' /proc/net/tcp /proc/net/tcp6 /proc/net/udp /proc/net/udp6))"
 end_saver
-true
+calls=$work/elsewhere/.local/share/"Lunaria software"/calls.txt
+has_stopped() { grep -q tbStop "$calls"; }
+check "the vendor's library is called in its place" until_true 15 has_stopped
+same "in order" "tbSetFilePath tbCreateConfig tbStart tbStop" "$(cut -d' ' -f1 "$calls" | paste -sd' ')"
+check "and nothing else is noted" test ! -e "${calls%/*}/usage.txt"
+kill "$with_vendor"
+wait "$with_vendor"
+same "and that run ends well" 0 $?

@@ -5,6 +5,7 @@
 
 #include "harness/privateFolders.h"
 #include "services/platform.h"
+#include "services/vendorAnalytics.h"
 #include "support/fileSystem.h"
 #include "support/windows/shellHeaders.h"
 
@@ -19,7 +20,7 @@ class TrustedFileOfWindows : public PrivateFolders {
   TrustedFileOfWindows() {
     folder = xplFileSystemMini::joinPath(root(), "program");
     xplFileSystemMini::createFolder(folder);
-    file = xplFileSystemMini::joinPath(folder, "library.dll");
+    file = xplFileSystemMini::joinPath(folder, xplAnalyticsLibraryName());
     writeFile(file, "content");
   }
   // Sets the access list from its text form.
@@ -55,6 +56,22 @@ TEST_F(TrustedFileOfWindows, AFileThatEveryoneMayWriteIsNot) {
 TEST_F(TrustedFileOfWindows, AFolderThatEveryoneMayWriteIsNot) {
   setAccess(folder, everyoneMayWrite);
   EXPECT_FALSE(isTrusted());
+}
+
+TEST_F(TrustedFileOfWindows, AFolderAboveThatEveryoneMayWriteIsNot) {
+  setAccess(root(), everyoneMayWrite);
+  EXPECT_FALSE(isTrusted());
+}
+
+TEST_F(TrustedFileOfWindows, WhatOthersMayReadAloneIsTrusted) {
+  setAccess(file, "D:(A;;FA;;;BA)(A;;FR;;;WD)");
+  EXPECT_TRUE(isTrusted());
+}
+
+TEST_F(TrustedFileOfWindows, WhatIsNotTrustedIsNotLoadedAndTheLogSaysSo) {
+  setAccess(folder, everyoneMayWrite);
+  EXPECT_EQ(VendorAnalytics::load(folder), nullptr);
+  EXPECT_EQ(countEntries(file + " is not loaded: others can change it or its folder", "Warning"), 1);
 }
 
 TEST_F(TrustedFileOfWindows, AFileThatIsNotThereIsNot) {
