@@ -44,6 +44,7 @@ full_run_ended_by wheel xdotool click 4
 full_run_ended_by key xdotool key a
 
 . "$here/startup.sh"
+. "$here/sound.sh"
 
 # A second full run gives way to the first.
 start_saver /s
