@@ -45,6 +45,7 @@ full_run_ended_by key xdotool key a
 
 . "$here/startup.sh"
 . "$here/sound.sh"
+. "$here/usage.sh"
 
 # A second full run gives way to the first.
 start_saver /s
