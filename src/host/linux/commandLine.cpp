@@ -20,6 +20,8 @@ struct PlainMode {
 constexpr std::array plainModes{
     PlainMode{"fullscreen", Mode::fullRun},
     PlainMode{"configure", Mode::configuration},
+    PlainMode{"install-xscreensaver", Mode::installXScreenSaver},
+    PlainMode{"uninstall-xscreensaver", Mode::uninstallXScreenSaver},
     PlainMode{"help", Mode::help},
     PlainMode{"version", Mode::version},
 };

@@ -14,6 +14,8 @@ struct HostRequest {
     preview,         // the preview inside such a window
     ordinaryWindow,  // the full run in a window of our own, to try it out
     configuration,
+    installXScreenSaver,    // put Lunaria into the user's XScreenSaver and choose it
+    uninstallXScreenSaver,  // and take it out again
     help,
     version
   };

@@ -17,6 +17,10 @@ Without an option it covers the whole screen until a key, a button or the pointe
   --window [WxH]        run in an ordinary window, 960x600 where no size is given;
                         Escape, q or closing the window ends it
   /c, --configure       edit the settings
+  --install-xscreensaver
+                        make it the saver that your XScreenSaver shows
+  --uninstall-xscreensaver
+                        take it out of XScreenSaver again; what was chosen before comes back
   --help                show this text
   --version             show the version
 

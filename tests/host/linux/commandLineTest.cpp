@@ -141,6 +141,14 @@ TEST(CommandLine, CAndConfigureAreTheConfiguration) {
   }
 }
 
+TEST(CommandLine, XScreenSaverIsInstalledIntoAndTakenOutOf) {
+  for (const char* word : {"--install-xscreensaver", "-install-xscreensaver"}) {
+    EXPECT_EQ(requestOf({word}).mode, Mode::installXScreenSaver) << word;
+  }
+  EXPECT_EQ(requestOf({"--uninstall-xscreensaver"}).mode, Mode::uninstallXScreenSaver);
+  EXPECT_EQ(errorOf({"--install-xscreensaver=1"}).text, "unknown option '--install-xscreensaver=1'");
+}
+
 TEST(CommandLine, HelpAndVersionWinOverEverything) {
   for (const char* word : {"--help", "-help"}) {
     EXPECT_EQ(requestOf({"/s", word, "--root"}).mode, Mode::help) << word;
@@ -177,7 +185,8 @@ TEST(CommandLine, TheApplicationObjectGetsTheCanonicalForm) {
 TEST(CommandLine, TheUsageNamesEveryOption) {
   const std::string usage = usageText();
   for (const char* option : {"/s", "--fullscreen", "--root", "/p ID", "--preview ID", "--window-id ID",
-                             "--window [WxH]", "/c", "--configure", "--help", "--version"}) {
+                             "--window [WxH]", "/c", "--configure",
+                             "--install-xscreensaver", "--uninstall-xscreensaver", "--help", "--version"}) {
     EXPECT_NE(usage.find(option), std::string::npos) << option;
   }
   EXPECT_EQ(versionText(), "lunaria 5.4.1\n");

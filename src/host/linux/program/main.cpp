@@ -11,6 +11,8 @@
 #include "host/linux/commandLine.h"
 #include "host/linux/hostFailure.h"
 #include "host/linux/run.h"
+#include "host/linux/xscreensaver.h"
+#include "support/fileSystem.h"
 #include "support/linux/applicationLinux.h"
 #include "support/log.h"
 
@@ -54,6 +56,12 @@ int startConfiguration() {
   return orTellWhyNot(runConfiguration);
 }
 
+// Without a log: that of the last run stays as it is.
+int change(const std::function<std::string()>& work) {
+  std::cout << work();
+  return EXIT_SUCCESS;
+}
+
 int start(const std::string& program, const HostRequest& request) {
   xplAppLinux::setArguments(canonicalArguments(program, request));
   switch (request.mode) {
@@ -65,6 +73,10 @@ int start(const std::string& program, const HostRequest& request) {
       return EXIT_SUCCESS;
     case HostRequest::Mode::configuration:
       return startConfiguration();
+    case HostRequest::Mode::installXScreenSaver:
+      return change([] { return installInXScreenSaver(xplFileSystemMini::applicationFullPath()); });
+    case HostRequest::Mode::uninstallXScreenSaver:
+      return change(uninstallFromXScreenSaver);
     default:
       return startSaver(request);
   }

@@ -1,0 +1,305 @@
+// Tests how Lunaria is put into XScreenSaver's preferences and taken out again.
+#include <gtest/gtest.h>
+
+#include "host/linux/xscreensaverChoice.h"
+#include "host/linux/xscreensaverPrograms.h"
+#include "support/random.h"
+
+using namespace xscreensaver;
+
+namespace {
+
+const std::string command = "lunaria --root";
+
+bool everything(const std::string& /*program*/) {
+  return true;
+}
+
+Chosen chosenIn(const std::string& text) {
+  return choose(text, command, everything);
+}
+
+std::vector<Entry> entriesOf(const std::string& text) {
+  const auto lines = linesOf(text);
+  const Line* line = lineOf(lines, "programs");
+  return line != nullptr ? programsOf(text, *line).entries : std::vector<Entry>();
+}
+
+std::string valueOf(const std::string& text, const std::string& key) {
+  const auto lines = linesOf(text);
+  const Line* line = lineOf(lines, key);
+  return line != nullptr ? plainValue(text, *line) : "(none)";
+}
+
+// The command that XScreenSaver starts in the mode "one".
+std::string startedBy(const std::string& text) {
+  const auto entries = entriesOf(text);
+  const auto number = std::stoul(valueOf(text, "selected"));
+  return valueOf(text, "mode") == "one" && number < entries.size() ? entries[number].command : "";
+}
+
+void expectRoundTrip(const std::string& text) {
+  SCOPED_TRACE(testing::PrintToString(text));
+  const Chosen chosen = chosenIn(text);
+  EXPECT_EQ(startedBy(chosen.text), command);
+  EXPECT_EQ(takeOut(chosen.text, chosen.before), text);
+}
+
+// As the settings program of XScreenSaver 6.06 writes it, in small.
+const std::string written =
+    "# XScreenSaver Preferences File\n# Written by "
+    "somebody.\n\ntimeout:\t0:10:00\nmode:\t\trandom\nselected:\t1\n\n"
+    "programs:\t\t\t\t\t\t\t\t      \\\n\t\t\t\tmaze --root\t\t\t\t    \\n\\\n- GL: \t\t\t\tcubes "
+    "--root\t\t\t    \\n\\\n\n\n"
+    "pointerHysteresis:  10\n";
+
+TEST(XscreensaverChoice, TheEntryFollowsThoseThatAreThereInTheirForm) {
+  EXPECT_EQ(chosenIn(written).text,
+            "# XScreenSaver Preferences File\n# Written by "
+            "somebody.\n\ntimeout:\t0:10:00\nmode:\t\tone\nselected:\t2\n\n"
+            "programs:\t\t\t\t\t\t\t\t      \\\n\t\t\t\tmaze --root\t\t\t\t    \\n\\\n- GL: \t\t\t\tcubes "
+            "--root\t\t\t    "
+            "\\n\\\n\t\t\t\tlunaria --root\t\t\t\t    \\n\\\n\n\npointerHysteresis:  10\n");
+  expectRoundTrip(written);
+}
+
+TEST(XscreensaverChoice, AFileWithoutAListGetsOneOfItsOwn) {
+  EXPECT_EQ(chosenIn("timeout: 1\n").text,
+            "mode:\tone\nselected:\t0\nprograms:\t\t\t\tlunaria --root\t\t\t\t    \\n\ntimeout: 1\n");
+}
+
+TEST(XscreensaverChoice, EveryFormComesBackToTheByte) {
+  for (const char* text : {"",
+                           "\n",
+                           "timeout: 1",
+                           "timeout: 1\n",
+                           "mode: one\nselected: 3\n",
+                           "mode:\nselected:\n",
+                           "MODE: Blank  \nSelected:x",
+                           "programs:",
+                           "programs:\n",
+                           "programs: \n",
+                           "programs: \\\n",
+                           "programs: \\\n\n",
+                           "programs: \\\n\t\n",
+                           "programs:\\",
+                           "programs: \\t",
+                           "programs: \\n",
+                           "programs: \\n \\n\n",
+                           "programs: a",
+                           "programs: a  \n",
+                           "programs: a \\n",
+                           "programs: a \\n\n",
+                           "programs: a \\n\\",
+                           "programs: a \\n\\\n",
+                           "programs: a \\n\\\n\n",
+                           "programs: a \\n \\\n\n",
+                           "programs: a \\n b \\n c\nmode: one\n",
+                           "programs: a\\",
+                           "programs: a \\\\\n\n",
+                           "programs: a \\n\\\nmode: one\n",
+                           "programs: a\nprograms: b \\n\n",
+                           "mode: one\nmode: blank\nselected: 0\nselected: 1\n",
+                           "mode: \\\n one\n",
+                           "# programs: x \\\nmode: one\n",
+                           "mode: one\\\n",
+                           "selected: 1\\\n2\\\n\n",
+                           "programs: a --root -x lunaria \\n"}) {
+    expectRoundTrip(text);
+  }
+}
+
+TEST(XscreensaverChoice, WindowsLineEndsComeBackToo) {
+  for (const char* text : {"timeout: 1\r\n", "mode: blank\r\nselected: 1\r\n", "programs: a\r\nmode: one\r\n",
+                           "programs: a \\n\r\n", "programs: a \\n b\r\n", "programs:\r\n"}) {
+    expectRoundTrip(text);
+  }
+  EXPECT_EQ(chosenIn("timeout: 1\r\n").text,
+            "mode:\tone\r\nselected:\t0\r\nprograms:\t\t\t\tlunaria --root\t\t\t\t    \\n\r\ntimeout: 1\r\n");
+}
+
+TEST(XscreensaverChoice, AListThatXScreenSaverCannotReadIsKnown) {
+  EXPECT_TRUE(isListBroken("programs:\\\r\n a \\n\\\r\n\r\n"));
+  EXPECT_TRUE(isListBroken("mode: one\r\nprograms: a \\n\\\r\n"));
+  EXPECT_FALSE(isListBroken("programs: a \\n\r\n"));
+  EXPECT_FALSE(isListBroken("programs: a \\n\\\n\n"));
+  EXPECT_FALSE(isListBroken("timeout: \\\r\n"));
+  EXPECT_FALSE(isListBroken(""));
+}
+
+TEST(XscreensaverChoice, BytesThatAreNoUtf8StayAsTheyAre) {
+  expectRoundTrip("textLiteral: \xff\xfe\x80\nprograms: \"\xe4\" a --root \\n\\\n\n");
+}
+
+TEST(XscreensaverChoice, ALongListKeepsItsOrder) {
+  std::string text = "programs: \\\n";
+  for (int i = 0; i < 5000; ++i) {
+    text += "\t\tsaver" + std::to_string(i) + " --root \\n\\\n";
+  }
+  text += "\nmode: random\n";
+  expectRoundTrip(text);
+  EXPECT_EQ(valueOf(chosenIn(text).text, "selected"), "5000");
+}
+
+TEST(XscreensaverChoice, ChoosingAgainChangesNothing) {
+  for (const std::string& text : {written, std::string(), std::string("programs: a")}) {
+    const std::string once = chosenIn(text).text;
+    EXPECT_EQ(chosenIn(once).text, once);
+  }
+}
+
+TEST(XscreensaverChoice, AnEntryThatTheUserWroteIsChosenAsItIs) {
+  for (const char* entry : {"lunaria -root --fast", "- lunaria --root",
+                            " GL: \"My moon\" /usr/bin/lunaria --root", "-lunaria\t--root"}) {
+    const std::string list = std::string("programs: a --root \\n ") + entry + " \\n b --root\n";
+    const std::string text = chosenIn(list).text;
+    EXPECT_EQ(text, "mode:\tone\nselected:\t1\n" + list) << entry;
+    EXPECT_EQ(takeOut(text, chosenIn(list).before), "programs: a --root \\n b --root\n") << entry;
+  }
+}
+
+TEST(XscreensaverChoice, AnEntryThatCannotServeIsPassedOver) {
+  for (const char* entry :
+       {"lunaria", "lunaria --rooted", "sh -c 'lunaria --root'", "lunaria.sh --root", "# lunaria --root"}) {
+    const std::string text = chosenIn(std::string("programs: ") + entry).text;
+    EXPECT_EQ(valueOf(text, "selected"), "1") << entry;
+    EXPECT_EQ(startedBy(text), command) << entry;
+  }
+}
+
+TEST(XscreensaverChoice, AnEntryWhoseProgramIsGoneIsPassedOverAndTakenOutLater) {
+  const std::string list = "programs: /gone/lunaria --root \\n a --root\n";
+  const Chosen chosen =
+      choose(list, command, [](const std::string& program) { return program != "/gone/lunaria"; });
+  EXPECT_EQ(valueOf(chosen.text, "selected"), "2");
+  EXPECT_EQ(takeOut(chosen.text, chosen.before), "programs: a --root\n");
+}
+
+TEST(XscreensaverChoice, AnotherSaverThatWasChosenSinceStaysChosen) {
+  // The settings program has written its own entries behind ours.
+  const std::string list = "programs: a \\n\\\n lunaria --root \\n\\\n b \\n\\\n c \\n\\\n\n";
+  const auto out = [&](const std::string& choice) {
+    return takeOut(choice + list, ChoiceBefore{"blank", "7"});
+  };
+  const std::string rest = "programs: a \\n\\\n b \\n\\\n c \\n\\\n\n";
+  EXPECT_EQ(out("mode: one\nselected: 0\n"), "mode: one\nselected: 0\n" + rest);
+  EXPECT_EQ(out("mode: one\nselected: 2\n"), "mode: one\nselected: 1\n" + rest);
+  EXPECT_EQ(out("mode: random\nselected: 3\n"), "mode: random\nselected: 2\n" + rest);
+  EXPECT_EQ(out("mode: random\nselected: -1\n"), "mode: random\nselected: -1\n" + rest);
+  EXPECT_EQ(out("mode: off\nselected: 1\n"), "mode: off\nselected: 7\n" + rest);
+  EXPECT_EQ(out("mode: one\nselected: 1\n"), "mode: blank\nselected: 7\n" + rest);
+}
+
+TEST(XscreensaverChoice, WhatWasChosenBeforeCountsWithoutOurEntry) {
+  const std::string list = "programs: a \\n lunaria --root \\n b\n";
+  EXPECT_EQ(chosenIn("mode: one\nselected: 2\n" + list).before.selected, "1");
+  EXPECT_EQ(chosenIn("mode: one\nselected: 0\n" + list).before.selected, "0");
+  EXPECT_EQ(chosenIn("mode: random\nselected: 1\n" + list).before.selected, "-1");
+  EXPECT_EQ(chosenIn("mode: one\nselected: 2\n" + list).before.mode, "one");
+}
+
+TEST(XscreensaverChoice, WithoutAMemoryTheChoiceBecomesARandomSaver) {
+  EXPECT_EQ(takeOut("mode: one\nselected: 1\nprograms: a \\n lunaria --root\n", std::nullopt),
+            "mode: random\nselected: -1\nprograms: a\n");
+}
+
+TEST(XscreensaverChoice, WhatTheUserChangedSinceIsKept) {
+  const Chosen chosen = chosenIn(written);
+  std::string edited = chosen.text;
+  edited.replace(edited.find("0:10:00"), 7, "0:03:00");
+  edited += "lock: True";
+  std::string expected = written;
+  expected.replace(expected.find("0:10:00"), 7, "0:03:00");
+  EXPECT_EQ(takeOut(edited, chosen.before), expected + "lock: True");
+}
+
+TEST(XscreensaverChoice, NothingIsTakenOutWhereNothingIs) {
+  for (const std::string& text :
+       {written, std::string(), std::string("mode: one\nselected: 0\nprograms: a\n")}) {
+    EXPECT_EQ(takeOut(text, ChoiceBefore{"blank", "7"}), text);
+    EXPECT_FALSE(isListed(text));
+  }
+  EXPECT_TRUE(isListed(chosenIn("").text));
+}
+
+// Pieces of which every strange file can be made; none is an entry of ours.
+const std::vector<std::string> tokens = {"mode",
+                                         "selected",
+                                         "programs",
+                                         "PROGRAMS",
+                                         "timeout",
+                                         ":",
+                                         ":",
+                                         ": ",
+                                         "\t",
+                                         " ",
+                                         "#",
+                                         "\\",
+                                         "\\\\",
+                                         "\n",
+                                         "\n",
+                                         "\n",
+                                         "\\\n",
+                                         "\\n\\\n",
+                                         "\\n",
+                                         " \\n ",
+                                         "one",
+                                         "random",
+                                         "0",
+                                         "1",
+                                         "-1",
+                                         "maze --root",
+                                         "- GL: b --root",
+                                         "\"x y\" c",
+                                         "\\t",
+                                         "\r",
+                                         "programs: ",
+                                         "\nprograms: \\\n",
+                                         "\nmode:\t",
+                                         "\nselected: ",
+                                         "\xff",
+                                         "lunar --root"};
+
+std::string randomText() {
+  std::string text;
+  const int length = xplRandom::next() % 24;
+  for (int i = 0; i < length; ++i) {
+    const auto token = static_cast<std::size_t>(xplRandom::next()) % tokens.size();
+    text += tokens[token];
+  }
+  return text;
+}
+
+TEST(XscreensaverChoice, TakingOutUndoesChoosingForAnyText) {
+  xplRandom::seed(20261121);
+  int tried = 0;
+  for (int i = 0; i < 20000; ++i) {
+    const std::string text = randomText();
+    if (!isListBroken(text)) {
+      expectRoundTrip(text);
+      ++tried;
+    }
+    if (HasFailure()) {
+      break;
+    }
+  }
+  EXPECT_GT(tried, 15000);
+}
+
+TEST(XscreensaverChoice, TheOrderOfTheOtherEntriesNeverChanges) {
+  xplRandom::seed(5);
+  for (int i = 0; i < 5000; ++i) {
+    const std::string text = randomText();
+    if (isListBroken(text)) {
+      continue;
+    }
+    const auto before = entriesOf(text);
+    const auto after = entriesOf(chosenIn(text).text);
+    ASSERT_EQ(after.size(), before.size() + 1) << testing::PrintToString(text);
+    for (std::size_t entry = 0; entry < before.size(); ++entry) {
+      ASSERT_EQ(after[entry].command, before[entry].command) << testing::PrintToString(text);
+    }
+  }
+}
+
+}  // namespace
