@@ -45,9 +45,11 @@ class Reader {
     if (m_answer) {
       return HostRequest{.mode = *m_answer, .window = {}};
     }
+    checkDisplay();
     if (m_error) {
       return *m_error;
     }
+    m_request.display = m_display;
     return m_request;
   }
 
@@ -86,6 +88,10 @@ class Reader {
   bool readPlainOption(std::string_view name) {
     if (name == "root") {
       readRoot();
+      return true;
+    }
+    if (name == "x11" || name == "wayland") {
+      m_display = name == "x11" ? HostRequest::Display::x11 : HostRequest::Display::wayland;
       return true;
     }
     const auto* plain = std::find_if(plainModes.begin(), plainModes.end(),
@@ -136,6 +142,13 @@ class Reader {
     }
   }
 
+  void checkDisplay() {
+    const bool isInForeignWindow = m_request.mode == Mode::foreignRun || m_request.mode == Mode::preview;
+    if (isInForeignWindow && m_display == HostRequest::Display::wayland) {
+      failPlainly("the windows of other programs are X11's: leave out --wayland, or the window");
+    }
+  }
+
   void readSize(std::optional<std::string> value) {
     setMode(Mode::ordinaryWindow);
     if (!value && m_next < m_arguments.size() && startsWithDigit(m_arguments[m_next])) {
@@ -176,6 +189,7 @@ class Reader {
   const std::optional<std::string>& m_screenSaverWindow;
   std::size_t m_next = 0;
   HostRequest m_request;
+  HostRequest::Display m_display = HostRequest::Display::automatic;
   std::optional<Mode> m_answer;  // help or version, once asked for
   std::optional<CommandLineError> m_error;
 };

@@ -19,7 +19,11 @@ struct HostRequest {
     help,
     version
   };
+  enum class Display { automatic, x11, wayland };
+
   Mode mode = Mode::fullRun;
+  // Which kind of display to run on; fullRun and ordinaryWindow. The others are X11's.
+  Display display = Display::automatic;
   // foreignRun and preview: the X11 id of the window. A foreignRun without one is drawn on the root window.
   std::optional<std::uint32_t> window;
   // ordinaryWindow: its size in pixels, each in [1, 16384].

@@ -5,33 +5,21 @@
 #include <string>
 
 #include "host/linux/hostFailure.h"
-#include "host/linux/makeX11Window.h"
 #include "host/linux/messagePump.h"
-#include "host/linux/x11Link.h"
 #include "host/windowProcedure.h"
 #include "support/log.h"
 
 namespace {
 
-void checkDisplay(const X11Connection& connection) {
-  if (connection.isUsable()) {
-    return;
-  }
-  throw HostFailure(connection.displayName().empty()
-                        ? std::string("no display: set DISPLAY to that of your session, such as :0")
-                        : "cannot open display " + connection.displayName() +
-                              ": check that DISPLAY names a running X server that lets you in");
-}
-
-void runMessages(X11Connection& connection, StopSignals& signals, X11Window& window, MessagePump& pump,
-                 const X11Facts& facts) {
+void runMessages(SaverStage& stage, StopSignals& signals, MessagePump& pump) {
   try {
     pump.send(WM_CREATE);
-    X11Link link(connection, signals, window, pump, facts);
+    const auto link = stage.show(pump, signals);
     // Where the pointer stands now: it ends the run when it leaves this place.
-    pump.post(WM_MOUSEMOVE, 0,
-              static_cast<LPARAM>((facts.pointerX & 0xFFFF) | (facts.pointerY & 0xFFFF) << 16));
-    pump.run(link);
+    if (const auto start = stage.pointer()) {
+      pump.post(WM_MOUSEMOVE, 0, static_cast<LPARAM>((start->x & 0xFFFF) | (start->y & 0xFFFF) << 16));
+    }
+    pump.run(*link);
   } catch (const std::exception& error) {
     pump.windowIsGone(std::string("the saver broke off: ") + error.what());
   }
@@ -47,17 +35,13 @@ struct ClosingLine {
 
 }  // namespace
 
-void runSaver(X11Connection& connection, StopSignals& signals, const HostRequest& request) {
-  checkDisplay(connection);
-  connection.endWaitsOn(signals);
-  const X11Facts facts = X11Facts::collect(connection, foreignWindowOf(connection, request));
-  if (signals.arrived()) {
+void runSaver(SaverDisplay& display, StopSignals& signals, const HostRequest& request) {
+  const auto stage = display.open(request, signals);
+  if (stage == nullptr) {
     return;
   }
-  checkDisplay(connection);
-  const auto window = makeX11Window(connection, facts, request);
-  MessagePump pump(window.get(), window->kind(), ScreenSaverProc);
-  runMessages(connection, signals, *window, pump, facts);
+  MessagePump pump(&stage->window(), stage->kind(), ScreenSaverProc);
+  runMessages(*stage, signals, pump);
   if (!pump.failure().empty()) {
     throw HostFailure(pump.failure());
   }

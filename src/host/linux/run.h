@@ -2,12 +2,12 @@
 #pragma once
 
 #include "host/linux/commandLine.h"
+#include "host/linux/saverDisplay.h"
 #include "host/linux/stopSignals.h"
-#include "host/linux/x11Connection.h"
 
 // Shows the saver until input or a signal ends it. Returns in order where a signal came before the window was
 // there. Throws HostFailure where the saver cannot start, or where its window or its display was taken away.
-void runSaver(X11Connection& connection, StopSignals& signals, const HostRequest& request);
+void runSaver(SaverDisplay& display, StopSignals& signals, const HostRequest& request);
 
 // Lets the user edit the settings, and returns when the sheet is closed. Throws HostFailure where there is
 // none.

@@ -4,7 +4,7 @@
 
 std::string usageText() {
   return R"(Usage: lunaria [OPTION]...
-A night sky that moves: a screen saver for X11.
+A night sky that moves: a screen saver for X11 and Wayland.
 
 Without an option it covers the whole screen until a key, a button or the pointer ends it.
 
@@ -16,6 +16,8 @@ Without an option it covers the whole screen until a key, a button or the pointe
                         Wins over --root
   --window [WxH]        run in an ordinary window, 960x600 where no size is given;
                         Escape, q or closing the window ends it
+  --x11, --wayland      use that kind of display. Without them Wayland is used where WAYLAND_DISPLAY is set,
+                        or else X11. The windows that --root and a window's id name are X11's
   /c, --configure       edit the settings
   --install-xscreensaver
                         make it the saver that your XScreenSaver shows
@@ -24,8 +26,8 @@ Without an option it covers the whole screen until a key, a button or the pointe
   --help                show this text
   --version             show the version
 
-Long options may be written with one dash. DISPLAY names the display. LUNARIA_NO_SHM=1 draws without memory
-shared with the display.
+Long options may be written with one dash. WAYLAND_DISPLAY or DISPLAY names the display. LUNARIA_NO_SHM=1 draws
+without memory shared with an X display.
 The log of the last run is Lunaria.xplLog.txt in the temporary folder.
 A full run of more than 23 seconds adds one line (times, version, build) to "Lunaria software/usage.txt" in the
 user's data folder; nothing leaves the machine. The setting sisableTelemetry=yes stops that.

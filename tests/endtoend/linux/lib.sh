@@ -11,7 +11,7 @@ failed=0
 work=$(mktemp -d)
 servers=()
 saver=
-unset XSCREENSAVER_WINDOW LUNARIA_NO_SHM XDG_RUNTIME_DIR XDG_CONFIG_HOME XDG_DATA_HOME XDG_CACHE_HOME
+unset WAYLAND_DISPLAY WAYLAND_SOCKET XSCREENSAVER_WINDOW LUNARIA_NO_SHM XDG_RUNTIME_DIR XDG_CONFIG_HOME XDG_DATA_HOME XDG_CACHE_HOME
 export HOME=$work/home TMPDIR=$work/tmp SDL_AUDIODRIVER=dummy
 mkdir -m 700 "$HOME" "$TMPDIR"
 # Without any folder to be had the log goes to the current one.

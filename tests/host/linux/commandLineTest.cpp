@@ -128,6 +128,32 @@ TEST(CommandLine, AnOptionAfterWindowIsNotItsSize) {
   EXPECT_EQ(requestOf({"--window", "--fullscreen"}).mode, Mode::fullRun);
 }
 
+TEST(CommandLine, TheKindOfDisplayIsLeftOpenOrNamed) {
+  using Display = HostRequest::Display;
+  EXPECT_EQ(requestOf({}).display, Display::automatic);
+  EXPECT_EQ(requestOf({"--x11"}).display, Display::x11);
+  EXPECT_EQ(requestOf({"-wayland"}).display, Display::wayland);
+  EXPECT_EQ(requestOf({"--wayland", "--x11"}).display, Display::x11);
+}
+
+TEST(CommandLine, TheKindOfDisplayGoesWithAModeWhereverItStands) {
+  for (const Words& words : {Words{"--wayland", "--window", "8x9"}, Words{"--window", "8x9", "--wayland"}}) {
+    EXPECT_EQ(requestOf(words).mode, Mode::ordinaryWindow);
+    EXPECT_EQ(requestOf(words).width, 8);
+    EXPECT_EQ(requestOf(words).display, HostRequest::Display::wayland);
+  }
+}
+
+TEST(CommandLine, WindowsOfOtherProgramsAreNotSoughtOnWayland) {
+  for (const Words& words :
+       {Words{"--wayland", "--root"}, Words{"--root", "--wayland"}, Words{"--wayland", "/p", "5"}}) {
+    const auto error = errorOf(words);
+    EXPECT_EQ(error.text, "the windows of other programs are X11's: leave out --wayland, or the window");
+    EXPECT_FALSE(error.needsUsage);
+  }
+  EXPECT_EQ(requestOf({"--root", "--x11"}).mode, Mode::foreignRun);
+}
+
 TEST(CommandLine, TheLastModeCounts) {
   EXPECT_EQ(requestOf({"/s", "--window"}).mode, Mode::ordinaryWindow);
   EXPECT_EQ(requestOf({"--window", "/c"}).mode, Mode::configuration);
@@ -185,7 +211,7 @@ TEST(CommandLine, TheApplicationObjectGetsTheCanonicalForm) {
 TEST(CommandLine, TheUsageNamesEveryOption) {
   const std::string usage = usageText();
   for (const char* option : {"/s", "--fullscreen", "--root", "/p ID", "--preview ID", "--window-id ID",
-                             "--window [WxH]", "/c", "--configure",
+                             "--window [WxH]", "--x11", "--wayland", "/c", "--configure",
                              "--install-xscreensaver", "--uninstall-xscreensaver", "--help", "--version"}) {
     EXPECT_NE(usage.find(option), std::string::npos) << option;
   }

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "host/linux/commandLine.h"
+#include "host/linux/displayChoice.h"
 #include "host/linux/hostFailure.h"
 #include "host/linux/run.h"
 #include "host/linux/xscreensaver.h"
@@ -45,10 +46,13 @@ int orTellWhyNot(const std::function<void()>& run) {
 
 // The log lives from here on: everything that follows finds it.
 int startSaver(const HostRequest& request) {
-  X11Connection connection;
+  const ConnectedDisplay connected = connectDisplay(request, DisplayEnvironment::ofProcess());
   StopSignals signals;
   const xplLog log("Lunaria", true, true);
-  return orTellWhyNot([&] { runSaver(connection, signals, request); });
+  if (!connected.note.empty()) {
+    logWarning().add(connected.note);
+  }
+  return orTellWhyNot([&] { runSaver(*connected.display, signals, request); });
 }
 
 int startConfiguration() {

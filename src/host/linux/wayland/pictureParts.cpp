@@ -1,0 +1,55 @@
+// Implements the arithmetic and the copying of parts.
+#include "host/linux/wayland/pictureParts.h"
+
+#include <algorithm>
+
+xplEdges commonPart(const xplEdges& one, const xplEdges& other) {
+  return {std::max(one.left, other.left), std::max(one.top, other.top), std::min(one.right, other.right),
+          std::min(one.bottom, other.bottom)};
+}
+
+bool isEmpty(const xplEdges& part) {
+  return part.right <= part.left || part.bottom <= part.top;
+}
+
+void addParts(std::vector<xplEdges>& parts, std::span<const xplEdges> added, const xplEdges& all) {
+  if (parts.size() + added.size() > mostParts) {
+    parts.assign(1, all);
+  } else {
+    parts.insert(parts.end(), added.begin(), added.end());
+  }
+}
+
+void joinBelow(std::vector<xplEdges>& parts) {
+  std::sort(parts.begin(), parts.end(), [](const xplEdges& a, const xplEdges& b) {
+    return a.left != b.left ? a.left < b.left : a.right != b.right ? a.right < b.right : a.top < b.top;
+  });
+  std::size_t last = 0;
+  for (std::size_t i = 1; i < parts.size(); ++i) {
+    xplEdges& above = parts[last];
+    if (parts[i].left == above.left && parts[i].right == above.right && parts[i].top <= above.bottom) {
+      above.bottom = std::max(above.bottom, parts[i].bottom);
+    } else {
+      parts[++last] = parts[i];
+    }
+  }
+  if (!parts.empty()) {
+    parts.resize(last + 1);
+  }
+}
+
+void copyPixels(const PixelMemory& from, const xplEdges& part, PixelMemory& to, int x, int y) {
+  if (isEmpty(part)) {
+    return;
+  }
+  const auto width = static_cast<std::size_t>(part.right - part.left);
+  const std::uint32_t* source = from.pixels() + static_cast<std::size_t>(part.top) * from.stride() +
+                                static_cast<std::size_t>(part.left);
+  std::uint32_t* target =
+      to.pixels() + static_cast<std::size_t>(y) * to.stride() + static_cast<std::size_t>(x);
+  for (int row = part.top; row < part.bottom; ++row) {
+    std::copy_n(source, width, target);
+    source += from.stride();
+    target += to.stride();
+  }
+}

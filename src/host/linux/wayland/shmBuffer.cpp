@@ -1,0 +1,61 @@
+// Implements memory shared with the compositor.
+#include "host/linux/wayland/shmBuffer.h"
+
+#include <climits>
+
+#include <fcntl.h>
+#include <sys/mman.h>
+
+#include "host/linux/fileDescriptor.h"
+
+namespace {
+
+// A nameless file of this many bytes: it goes with its last user, also after a crash of both.
+FileDescriptor makeFile(std::size_t size) {
+  FileDescriptor file(::memfd_create("lunaria-frame", MFD_CLOEXEC));
+  // The memory is taken at once: were there too little, a write into it would end the program later.
+  if (file.isOpen() && ::posix_fallocate(file.get(), 0, static_cast<off_t>(size)) != 0) {
+    return {};
+  }
+  return file;
+}
+
+void noteRelease(void* isBeingRead, wl_buffer*) {
+  *static_cast<bool*>(isBeingRead) = false;
+}
+
+}  // namespace
+
+std::unique_ptr<ShmBuffer> ShmBuffer::make(wl_shm* sharedMemory, int width, int height) {
+  static const wl_buffer_listener listener{noteRelease};
+  const std::size_t size = static_cast<std::size_t>(width) * static_cast<std::size_t>(height) * 4;
+  if (size > INT_MAX) {
+    return nullptr;  // more than the protocol can count
+  }
+  const FileDescriptor file = makeFile(size);
+  if (!file.isOpen()) {
+    return nullptr;
+  }
+  void* address = ::mmap(nullptr, size, PROT_READ | PROT_WRITE, MAP_SHARED, file.get(), 0);
+  if (address == MAP_FAILED) {
+    return nullptr;
+  }
+  std::unique_ptr<ShmBuffer> buffer(new ShmBuffer(width, height, address, size));
+  const Proxy<wl_shm_pool> pool(wl_shm_create_pool(sharedMemory, file.get(), static_cast<int>(size)));
+  buffer->m_buffer.reset(
+      wl_shm_pool_create_buffer(pool.get(), 0, width, height, width * 4, WL_SHM_FORMAT_XRGB8888));
+  wl_buffer_add_listener(buffer->m_buffer.get(), &listener, &buffer->m_isBeingRead);
+  return buffer;
+}
+
+ShmBuffer::ShmBuffer(int width, int height, void* address, std::size_t size)
+    : m_width(width), m_height(height), m_address(address), m_size(size) {}
+
+ShmBuffer::~ShmBuffer() {
+  ::munmap(m_address, m_size);
+}
+
+void ShmBuffer::attachTo(wl_surface* surface) {
+  wl_surface_attach(surface, m_buffer.get(), 0, 0);
+  m_isBeingRead = true;
+}
