@@ -1,12 +1,13 @@
 #!/usr/bin/env bash
 # The Debian packages that Lunaria is built, packed and tested with, and how they are installed; read by ./run, ./test
-# and packaging/build.
+# and the scripts in packaging.
 
 build_packages=(g++ cmake ninja-build pkg-config libxcb1-dev libxcb-shm0-dev libxcb-randr0-dev libxcb-dpms0-dev
   libxcb-xfixes0-dev libwayland-dev wayland-protocols libxkbcommon-dev libfreetype-dev libfontconfig-dev
   fonts-liberation libsdl2-dev libasound2-dev libsystemd-dev libstb-dev qt6-base-dev)
 package_packages=(dpkg-dev gzip)
-test_packages=("${package_packages[@]}" googletest libbenchmark-dev g++-mingw-w64-x86-64-posix wine wine64 xvfb
+windows_packages=(g++-mingw-w64-x86-64-posix nsis)
+test_packages=("${package_packages[@]}" "${windows_packages[@]}" googletest libbenchmark-dev wine wine64 xvfb
   xdotool x11-utils x11-xserver-utils imagemagick fonts-dejavu-core clang-format clang-tidy procps tzdata
   dbus-daemon python3-dbusmock pulseaudio pulseaudio-utils desktop-file-utils
   lintian appstream libxml2-utils man-db fakeroot xscreensaver-data)

@@ -39,6 +39,12 @@ TEST(ProgramResources, TheVersionIsTheProgramsOwn) {
   EXPECT_NE(version.find(wide(programName)), std::wstring::npos);
 }
 
+TEST(ProgramResources, TheVersionSaysWhoseItIs) {
+  const auto version = resourceWords(MAKEINTRESOURCEA(1), RT_VERSION);
+  EXPECT_NE(version.find(L"Lunaria software"), std::wstring::npos);
+  EXPECT_NE(version.find(L"Copyright (c) 2026 the owner of Lunaria"), std::wstring::npos);
+}
+
 TEST(ProgramResources, ThereIsAManifest) {
   EXPECT_FALSE(resourceWords(MAKEINTRESOURCEA(1), RT_MANIFEST).empty());
 }
