@@ -1,66 +1,11 @@
-// Tests the screen saver object: its log, its life, its frames.
-#include <algorithm>
-
+// Tests the screen saver object: its beginning, its window, its frames.
 #include <gmock/gmock.h>
 
-#include "harness/privateFolders.h"
-#include "host/noctisScreensaver.h"
+#include "noctisScreensaverFixture.h"
 #include "support/settings.h"
-#include "windowharness/testWindow.h"
 
 using testing::ElementsAre;
 using testing::IsEmpty;
-
-namespace {
-
-constexpr int width = 160;
-constexpr int height = 120;
-
-class NoctisScreensaver : public PrivateFolders {
- protected:
-  // The log's entries since the last call.
-  std::vector<std::string> newEntries() {
-    const auto all = logEntries();
-    const std::vector<std::string> entries(all.begin() + static_cast<std::ptrdiff_t>(m_seen), all.end());
-    m_seen = all.size();
-    return entries;
-  }
-  // Those of the entries that are among the wanted ones, in their order.
-  static std::vector<std::string> among(const std::vector<std::string>& entries,
-                                        const std::vector<std::string>& wanted) {
-    std::vector<std::string> found;
-    std::copy_if(entries.begin(), entries.end(), std::back_inserter(found), [&](const std::string& entry) {
-      return std::find(wanted.begin(), wanted.end(), entry) != wanted.end();
-    });
-    return found;
-  }
-  std::string handleText() {
-    return stringFormat("%X", static_cast<unsigned>(xplHandleNumber(window.handle())));
-  }
-  // What a viewer sees, row by row.
-  std::vector<xplColor> shown() {
-    std::vector<xplColor> pixels;
-    for (int y = 0; y < height; ++y) {
-      for (int x = 0; x < width; ++x) {
-        pixels.push_back(window.shownPixel(x, y));
-      }
-    }
-    return pixels;
-  }
-  std::vector<xplColor> nextFrame(noctisScreensaver& saver) {
-    saver.drawOneFrame();
-    saver.flushOneFrame();
-    return shown();
-  }
-
-  TestWindow window{width, height, 30, 20};
-
- private:
-  std::size_t m_seen = 0;
-};
-
-const std::vector<std::string> deletions = {"Deleted startupEffectPtr", "Deleted ncWorldPtr",
-                                            "Deleted m_telemetryPtr"};
 
 TEST_F(NoctisScreensaver, LogsItsConstructionAndTheSettingsFiles) {
   const std::string user = xplUserSettings().filename();  // opened here, since that logs too
@@ -72,14 +17,6 @@ TEST_F(NoctisScreensaver, LogsItsConstructionAndTheSettingsFiles) {
       ElementsAre("creating: xplScreenSaverAbstract", "Program: Lunaria screensaver 5.4.1",
                   "cPreventComputerSleep.changeSettingIfTimeHasExpired()", "creating: noctisScreensaver",
                   "INI file for user settings=" + user, "INI file for app settings=" + application));
-}
-
-TEST_F(NoctisScreensaver, LogsItsEndInReverse) {
-  auto saver = std::make_unique<noctisScreensaver>();
-  newEntries();
-  saver.reset();
-  EXPECT_THAT(newEntries(),
-              ElementsAre("destroying: noctisScreensaver", "destroying: xplScreenSaverAbstract"));
 }
 
 TEST_F(NoctisScreensaver, StartsAtItsFrameRateWithASheet) {
@@ -200,56 +137,3 @@ TEST_F(NoctisScreensaver, PreservingTheDesktopCanBeSet) {
   saver.setPreserveDesktopContents(false);
   EXPECT_FALSE(saver.getPreserveDesktopContents());
 }
-
-TEST_F(NoctisScreensaver, ShuttingDownDeletesTheWorldAndLogsTheThreeLines) {
-  noctisScreensaver saver;
-  saver.initWithWindowHandle(window.handle(), -1);
-  newEntries();
-  saver.shutDown();
-  const auto entries = newEntries();
-  const std::vector<std::string> wanted = {
-      "Entering: noctisScreensaver.shutDown()", deletions[0], "Entering: TnoctisWorld.destructor()",
-      "Exiting: TnoctisWorld.destructor()",     deletions[1], deletions[2],
-      "Exiting: noctisScreensaver.shutDown()"};
-  EXPECT_EQ(among(entries, wanted), wanted);
-}
-
-TEST_F(NoctisScreensaver, AfterShuttingDownFramesDoNothing) {
-  noctisScreensaver saver;
-  saver.initWithWindowHandle(window.handle(), -1);
-  const auto last = nextFrame(saver);
-  saver.shutDown();
-  saver.animateOneFrame(1.0F);
-  EXPECT_TRUE(nextFrame(saver) == last);
-}
-
-TEST_F(NoctisScreensaver, ShuttingDownWithoutAnInitialisationLogsTheThreeLinesAlone) {
-  noctisScreensaver saver;
-  newEntries();
-  saver.shutDown();
-  EXPECT_THAT(newEntries(), ElementsAre("Entering: noctisScreensaver.shutDown()", deletions[0], deletions[1],
-                                        deletions[2], "Exiting: noctisScreensaver.shutDown()"));
-}
-
-TEST_F(NoctisScreensaver, KeptASecondInitialisationIsAnErrorAndReplacesTheWorld) {
-  noctisScreensaver saver;
-  saver.initWithWindowHandle(window.handle(), -1);
-  newEntries();
-  saver.initWithWindowHandle(window.handle(), -1);
-  EXPECT_EQ(countEntries("noctisScreensaver.initWithWindowHandle(): ncWorldPtr is not NULL", "ERROR"), 1);
-  EXPECT_EQ(countEntries("Creating TnoctisWorld with monitorId =-1"), 2);
-  EXPECT_EQ(countEntries("xplWindow(wHandle:" + handleText() + ") constructor start"), 1);
-  EXPECT_EQ(countEntries("Entering: TnoctisWorld.destructor()"), 0);
-  nextFrame(saver);
-}
-
-TEST_F(NoctisScreensaver, ASecondInitialisationListsTheMonitorsAgain) {
-  std::vector<xplRect<int>> monitors;
-  ASSERT_TRUE(xplEnumerateMonitors(window.handle(), monitors));
-  noctisScreensaver saver;
-  saver.initWithWindowHandle(window.handle(), -1);
-  saver.initWithWindowHandle(window.handle(), -1);
-  EXPECT_EQ(countEntries("Number of monitors:" + std::to_string(2 * monitors.size())), 1);
-}
-
-}  // namespace
