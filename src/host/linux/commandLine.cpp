@@ -2,34 +2,14 @@
 #include "host/linux/commandLine.h"
 
 #include <algorithm>
-#include <array>
 #include <string_view>
 
 #include "host/linux/optionValues.h"
+#include "host/linux/plainModes.h"
 
 namespace {
 
 using Mode = HostRequest::Mode;
-
-struct PlainMode {
-  std::string_view name;  // without its dashes
-  Mode mode;
-};
-
-// The options that are a mode and take no value.
-constexpr std::array plainModes{
-    PlainMode{"fullscreen", Mode::fullRun},
-    PlainMode{"configure", Mode::configuration},
-    PlainMode{"install-xscreensaver", Mode::installXScreenSaver},
-    PlainMode{"uninstall-xscreensaver", Mode::uninstallXScreenSaver},
-    PlainMode{"help", Mode::help},
-    PlainMode{"version", Mode::version},
-};
-
-// Whether a mode wins over every other, and over errors: it is an answer on its own.
-constexpr bool isAnswer(Mode mode) {
-  return mode == Mode::help || mode == Mode::version;
-}
 
 // Reads one command line from left to right.
 class Reader {
@@ -50,6 +30,7 @@ class Reader {
       return *m_error;
     }
     m_request.display = m_display;
+    m_request.hasStatistics = m_hasStatistics;
     return m_request;
   }
 
@@ -92,6 +73,10 @@ class Reader {
     }
     if (name == "x11" || name == "wayland") {
       m_display = name == "x11" ? HostRequest::Display::x11 : HostRequest::Display::wayland;
+      return true;
+    }
+    if (name == "stats") {
+      m_hasStatistics = true;
       return true;
     }
     const auto* plain = std::find_if(plainModes.begin(), plainModes.end(),
@@ -190,6 +175,7 @@ class Reader {
   std::size_t m_next = 0;
   HostRequest m_request;
   HostRequest::Display m_display = HostRequest::Display::automatic;
+  bool m_hasStatistics = false;  // whatever the mode
   std::optional<Mode> m_answer;  // help or version, once asked for
   std::optional<CommandLineError> m_error;
 };
@@ -199,15 +185,4 @@ class Reader {
 CommandLine parseCommandLine(const std::vector<std::string>& arguments,
                              const std::optional<std::string>& screenSaverWindow) {
   return Reader(arguments, screenSaverWindow).read();
-}
-
-std::vector<std::string> canonicalArguments(const std::string& program, const HostRequest& request) {
-  switch (request.mode) {
-    case HostRequest::Mode::preview:
-      return {program, "/p", std::to_string(request.window.value_or(0))};
-    case HostRequest::Mode::configuration:
-      return {program, "/c"};
-    default:
-      return {program, "/s"};
-  }
 }

@@ -29,6 +29,8 @@ struct HostRequest {
   // ordinaryWindow: its size in pixels, each in [1, 16384].
   int width = 960;
   int height = 600;
+  // Every run: whether its frames and their cost are told when it is over.
+  bool hasStatistics = false;
 };
 
 struct CommandLineError {

@@ -7,6 +7,7 @@
 #include <poll.h>
 
 #include "host/linux/windowTimers.h"
+#include "host/runStatistics.h"
 
 namespace {
 
@@ -33,7 +34,19 @@ MessagePump* MessagePump::current() {
 }
 
 LRESULT MessagePump::send(UINT message, WPARAM wParam, LPARAM lParam) {
-  return m_procedure(m_window, message, wParam, lParam);
+  const bool isOfAFrame = message == WM_TIMER || message == WM_PAINT;
+  return m_statistics != nullptr && isOfAFrame ? sendMeasured(message, wParam, lParam)
+                                               : m_procedure(m_window, message, wParam, lParam);
+}
+
+LRESULT MessagePump::sendMeasured(UINT message, WPARAM wParam, LPARAM lParam) {
+  m_statistics->workBegins();
+  const LRESULT answer = m_procedure(m_window, message, wParam, lParam);
+  m_statistics->workEnds();
+  if (message == WM_PAINT) {
+    m_statistics->frameIsShown();
+  }
+  return answer;
 }
 
 void MessagePump::post(UINT message, WPARAM wParam, LPARAM lParam) {

@@ -10,6 +10,8 @@
 #include "host/linux/windowKind.h"
 #include "host/platform.h"
 
+class RunStatistics;
+
 // What the pump needs of the display behind the window.
 class DisplayLink {
  public:
@@ -65,6 +67,9 @@ class MessagePump {
   // Why the window went; empty where nothing was wrong.
   const std::string& failure() const { return m_failure; }
 
+  // Counts the frames and their cost from now on; borrowed. Null: counts nothing any more.
+  void measureWith(RunStatistics* statistics) { m_statistics = statistics; }
+
   // Runs the messages until quit().
   void run(DisplayLink& display);
 
@@ -86,6 +91,7 @@ class MessagePump {
     std::function<void()> onReadable;
   };
 
+  LRESULT sendMeasured(UINT message, WPARAM wParam, LPARAM lParam);
   void dispatchNext();
   // Waits until something can be read, for at most so many milliseconds (-1: for ever). True when it was.
   bool waitAndCall(const DisplayLink& display, int milliseconds);
@@ -99,6 +105,7 @@ class MessagePump {
   Procedure m_procedure;
   std::deque<Message> m_messages;
   std::vector<Watch> m_watches;
+  RunStatistics* m_statistics = nullptr;
   bool m_isInvalid = false;
   bool m_isDestroyed = false;
   bool m_hasQuit = false;

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "host/linux/hostFailure.h"
+#include "host/linux/measuredRun.h"
 #include "host/linux/messagePump.h"
 #include "host/windowProcedure.h"
 #include "support/log.h"
@@ -41,7 +42,10 @@ void runSaver(SaverDisplay& display, StopSignals& signals, const HostRequest& re
     return;
   }
   MessagePump pump(&stage->window(), stage->kind(), ScreenSaverProc);
-  runMessages(*stage, signals, pump);
+  {
+    const MeasuredRun measured(request.hasStatistics, pump);
+    runMessages(*stage, signals, pump);
+  }
   if (!pump.failure().empty()) {
     throw HostFailure(pump.failure());
   }

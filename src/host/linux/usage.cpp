@@ -23,6 +23,8 @@ Without an option it covers the whole screen until a key, a button or the pointe
                         make it the saver that your XScreenSaver shows
   --uninstall-xscreensaver
                         take it out of XScreenSaver again; what was chosen before comes back
+  --stats               at the end of a run print its frames, the milliseconds that one took, and the share of
+                        the processor
   --help                show this text
   --version             show the version
 

@@ -18,6 +18,7 @@ scripts=(
   displays
   environments
   power
+  stats
   window
   resources
   services

@@ -175,6 +175,19 @@ TEST(CommandLine, XScreenSaverIsInstalledIntoAndTakenOutOf) {
   EXPECT_EQ(errorOf({"--install-xscreensaver=1"}).text, "unknown option '--install-xscreensaver=1'");
 }
 
+TEST(CommandLine, StatisticsGoWithEveryRunWhereverTheOptionStands) {
+  EXPECT_FALSE(requestOf({"/s"}).hasStatistics);
+  for (const Words& words :
+       {Words{"--stats"}, Words{"-stats"}, Words{"--stats", "/s"}, Words{"/s", "--stats"},
+        Words{"--stats", "--window", "8x8"}, Words{"--root", "--stats"}, Words{"--stats", "/p", "5"},
+        Words{"/p", "5", "--stats"}}) {
+    EXPECT_TRUE(requestOf(words).hasStatistics) << words[0];
+  }
+  EXPECT_EQ(requestOf({"--stats"}).mode, Mode::fullRun);
+  EXPECT_EQ(requestOf({"/p", "5", "--stats"}).window, 5U);
+  EXPECT_EQ(errorOf({"--stats=1"}).text, "unknown option '--stats=1'");
+}
+
 TEST(CommandLine, HelpAndVersionWinOverEverything) {
   for (const char* word : {"--help", "-help"}) {
     EXPECT_EQ(requestOf({"/s", word, "--root"}).mode, Mode::help) << word;
@@ -210,9 +223,10 @@ TEST(CommandLine, TheApplicationObjectGetsTheCanonicalForm) {
 
 TEST(CommandLine, TheUsageNamesEveryOption) {
   const std::string usage = usageText();
-  for (const char* option : {"/s", "--fullscreen", "--root", "/p ID", "--preview ID", "--window-id ID",
-                             "--window [WxH]", "--x11", "--wayland", "/c", "--configure",
-                             "--install-xscreensaver", "--uninstall-xscreensaver", "--help", "--version"}) {
+  for (const char* option :
+       {"/s", "--fullscreen", "--root", "/p ID", "--preview ID", "--window-id ID", "--window [WxH]", "--x11",
+        "--wayland", "/c", "--configure", "--install-xscreensaver", "--uninstall-xscreensaver", "--stats",
+        "--help", "--version"}) {
     EXPECT_NE(usage.find(option), std::string::npos) << option;
   }
   EXPECT_EQ(versionText(), "lunaria 5.4.1\n");

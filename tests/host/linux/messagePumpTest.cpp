@@ -8,6 +8,7 @@
 #include "graphics/linux/memoryWindow.h"
 #include "host/linux/messagePump.h"
 #include "host/linux/windowTimers.h"
+#include "host/runStatistics.h"
 
 namespace {
 
@@ -301,6 +302,23 @@ TEST_F(MessagePumpTest, SendsItsRequestsBeforeItWaits) {
   pump.post(WM_CLOSE);
   runUntil(WM_CLOSE);
   EXPECT_GE(display.flushes, 1);
+}
+
+TEST_F(MessagePumpTest, MeasuresTicksAndPaintsAsTheWorkOnAFrame) {
+  xplManualClock clock{{1'000'000'000, 0}};
+  const xplClock::Override override(clock);
+  RunStatistics statistics([] { return 0.0; });
+  pump.measureWith(&statistics);
+  onMessage = [&](UINT message) {
+    clock.advance(message == WM_TIMER ? 2000 : message == WM_PAINT ? 5000 : 100000);
+  };
+  pump.send(WM_TIMER);
+  pump.send(otherMessage);
+  pump.send(WM_PAINT);
+  EXPECT_EQ(statistics.lines().at(1), "A frame: 7.00 ms on average, 7.00 ms at worst");
+  pump.measureWith(nullptr);
+  pump.send(WM_PAINT);
+  EXPECT_EQ(statistics.lines().at(0), "Frames: 1 in 0.1 s, 8.9 a second");
 }
 
 TEST_F(MessagePumpTest, DestroysTheWindowOnce) {
