@@ -12,5 +12,6 @@ inline constexpr std::size_t maxQuoteLineBytes = 4096;
 inline constexpr std::size_t maxQuoteBytes = 8192;  // all lines together
 
 // The parts of a zero-terminated text between its '|', also empty ones; an empty text is one empty line.
-// Never without a line. What goes beyond the limits is left out.
+// Never without a line. What goes beyond the limits is left out: no character is cut in two, and no line is
+// empty because nothing of it had room.
 std::vector<std::string> quoteLines(const char* text);

@@ -48,4 +48,19 @@ TEST(QuoteLines, TogetherAreBoundInLength) {
   EXPECT_EQ(std::string(maxQuoteBytes - 8000, 'x'), lines[8]);
 }
 
+TEST(QuoteLines, ThatHaveNoRoomLeftAreNotShownAsEmptyOnes) {
+  const std::string longest(maxQuoteLineBytes, 'x');
+  const std::string full = longest + "|" + longest;  // every byte that is shown
+  EXPECT_EQ((Lines{longest, longest}), quoteLines(full.c_str()));
+  EXPECT_EQ((Lines{longest, longest}), quoteLines((full + "|").c_str()));
+  EXPECT_EQ((Lines{longest, longest}), quoteLines((full + "|next").c_str()));
+  EXPECT_EQ((Lines{longest, longest}), quoteLines((full + "||||next").c_str()));
+  EXPECT_EQ((Lines{longest, longest}), quoteLines((full + "x|next").c_str()));
+}
+
+TEST(QuoteLines, ThatAreEmptyTakeNoRoom) {
+  const std::string longest(maxQuoteLineBytes, 'x');
+  EXPECT_EQ((Lines{longest, "", "", longest}), quoteLines((longest + "|||" + longest + "|").c_str()));
+}
+
 }  // namespace
