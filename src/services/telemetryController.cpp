@@ -10,8 +10,8 @@
 #include "support/settingsGroups.h"
 
 cTelemetryController::cTelemetryController(MakeAnalytics makeAnalytics) {
-  const std::string folder = cacheFolder();
-  if (!xplFileSystemMini::folderExists(folder)) {
+  const std::string folder = cacheFolderIn(xplFileSystemMini::getFolder_CommonAppData());
+  if (!folder.empty() && !xplFileSystemMini::folderExists(folder)) {
     xplFileSystemMini::createFolder(folder);  // without it the library tells what it thinks of the path
   }
   // The settings belong to this thread; the other one only learns what they say.
@@ -33,8 +33,9 @@ cTelemetryController::~cTelemetryController() {
   logInfo().add("returned from thread delete");
 }
 
-std::string cTelemetryController::cacheFolder() {
-  return xplFileSystemMini::joinPath(xplFileSystemMini::getFolder_CommonAppData(), "Lunaria software");
+std::string cTelemetryController::cacheFolderIn(const std::string& allUsersFolder) {
+  // A name alone would be a folder below wherever the saver happens to be started.
+  return allUsersFolder.empty() ? "" : xplFileSystemMini::joinPath(allUsersFolder, "Lunaria software");
 }
 
 void cTelemetryController::startThread(MakeAnalytics makeAnalytics, const std::string& folder,

@@ -18,8 +18,9 @@ class cTelemetryController : public cTelemetryDoAllSteps_Trackerbird {
   cTelemetryController(const cTelemetryController&) = delete;
   cTelemetryController& operator=(const cTelemetryController&) = delete;
 
-  // The folder for the library's files.
-  static std::string cacheFolder();
+  // The folder for the library's files, in the folder of all users' application data. Empty where that is:
+  // the library then refuses the path, which is logged, and no file is written.
+  static std::string cacheFolderIn(const std::string& allUsersFolder);
 
  private:
   void startThread(MakeAnalytics makeAnalytics, const std::string& folder, bool isAllowed);
