@@ -33,6 +33,10 @@ constexpr SheetControl backgroundControls[] = {{id::none, groupBox, "Sky backgro
                                                {id::gradientBlue, radioButton, "Gradient blue color"},
                                                {id::starrySky, radioButton, "Starry sky background"}};
 
+// Deliberate: one expects "Cuckoo"; the word is misspelled here as in the key of the setting, by which users
+// and their notes know it. Do not mend it.
+constexpr char cookooText[] = "Cookoo every hour (Rooster in the mornings)";
+
 constexpr SheetControl soundsControls[] = {
     {id::none, groupBox, "Play the following sound"},
     {id::lullaby, radioButton, "Lullaby"},
@@ -42,7 +46,7 @@ constexpr SheetControl soundsControls[] = {
     {id::sleepReminder, radioButton, "Sleep reminder"},
     {id::birds, radioButton, "Birds"},
     {id::feelingBlue, radioButton, "Feeling blue"},
-    {id::cookooEveryHour, checkBox, "Cookoo every hour (Rooster in the mornings)"}};
+    {id::cookooEveryHour, checkBox, cookooText}};
 
 constexpr SheetControl quotesControls[] = {{id::none, groupBox, "Show quotes of the following categories"},
                                            {id::love, checkBox, "Love"},

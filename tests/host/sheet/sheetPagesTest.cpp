@@ -80,6 +80,10 @@ TEST(SheetPages, SoundsHasItsControls) {
                   "1037 Birds", "1038 Feeling blue", "1039 Cookoo every hour (Rooster in the mornings)"));
 }
 
+TEST(SheetPages, KeptCookooIsMisspelled) {
+  EXPECT_STREQ(sheetPages()[soundsPage].controls.back().text, "Cookoo every hour (Rooster in the mornings)");
+}
+
 TEST(SheetPages, QuotesHasItsControls) {
   EXPECT_THAT(textsOf(quotesPage),
               ElementsAre("-1 Show quotes of the following categories", "1026 Love", "1027 Wisdom",
