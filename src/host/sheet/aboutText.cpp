@@ -17,8 +17,8 @@ std::string aboutText(const std::string& settingsFile, const std::string& lineBr
   const std::string& n = lineBreak;
   return std::string(programName) + " " + programVersion +
          "\n\nThank you for letting the night sky onto your" + n + "screen. Its home is <a>" + host +
-         "</a>.\n\nWhat is recorded: after each session one line is" + n +
-         "added to a file on this computer, with the start," + n +
-         "the end and the version. Nothing leaves the" + n + "computer. To switch it off, write the line" +
-         n + "sisableTelemetry=yes (spelled so) into the file\n" + settingsFile;
+         "</a>.\n\nWhat is recorded: a full run of more than 23 seconds" + n +
+         "adds one line (times, version, build) to a file;" + n + "nothing leaves the machine. The setting" +
+         n + "sisableTelemetry=yes stops that. Write it so, as a" + n + "line of its own, into the file\n" +
+         settingsFile;
 }
