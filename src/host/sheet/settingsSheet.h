@@ -46,6 +46,8 @@ class SettingsSheet {
   std::vector<int> open(int page);
   bool isOpen(int page) const { return m_opened.contains(page); }
   MessageEditor& messages() { return m_messages; }
+  // The full path of the file that OK writes.
+  const std::string& settingsFile() const { return m_store.filename(); }
 
   // A control was clicked: the Sounds page plays what was chosen.
   void clicked(int page, int control) const;

@@ -3,7 +3,6 @@
 
 #include "host/sheet/aboutText.h"
 #include "host/sheet/controlIds.h"
-#include "support/settings.h"
 
 AboutPage::AboutPage() {
   setObjectName(QString::number(controlIds::about));
@@ -16,8 +15,8 @@ AboutPage::AboutPage() {
   setContentsMargins(margin, margin, margin, margin);
 }
 
-void AboutPage::open() {
-  const QString file = QString::fromStdString(xplUserSettings().filename()).toHtmlEscaped();
+void AboutPage::open(const std::string& settingsFile) {
+  const QString file = QString::fromStdString(settingsFile).toHtmlEscaped();
   const QString link = "<a href=\"" + QString::fromStdString(aboutAddress()) + "\">";
   setText(
       QString::fromStdString(aboutText(file.toStdString(), " ")).replace("<a>", link).replace("\n", "<br>"));

@@ -87,7 +87,7 @@ void SettingsDialog::open(int position) {
   if (position == messagesPage) {
     m_messagesPage->refresh();
   } else if (position == aboutPage) {
-    m_aboutPage->open();
+    m_aboutPage->open(m_sheet.settingsFile());
   } else {
     m_choicePages[static_cast<std::size_t>(position)]->setChecked(checked);
   }

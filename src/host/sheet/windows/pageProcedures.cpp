@@ -50,7 +50,7 @@ void initialize(HWND dialog, int page, SettingsSheet& sheet) {
     initializeMessagesPage(dialog, sheet.messages());
   } else if (page == aboutPage) {
     SetDlgItemTextA(dialog, controlIds::about,
-                    aboutText(xplUserSettings().filename(), aboutLineBreak).c_str());
+                    aboutText(sheet.settingsFile(), aboutLineBreak).c_str());
   }
 }
 
