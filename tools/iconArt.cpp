@@ -95,7 +95,9 @@ Rgba pixelAt(int x, int y, int size, const Design& design) {
   SkyColor sum;
   int covered = 0;
   for (int i = 0; i < samples * samples; ++i) {
-    const Point p = {(x + (i % samples + 0.5) / samples) / size, (y + (i / samples + 0.5) / samples) / size};
+    const int column = i % samples;
+    const int row = i / samples;
+    const Point p = {(x + (column + 0.5) / samples) / size, (y + (row + 0.5) / samples) / size};
     if (isInSky(p, design)) {
       const SkyColor color = colorAt(p, design);
       sum.red += color.red * color.red;

@@ -66,11 +66,12 @@ Reduced reduce(const MoonMap& map, double right, double down, double discRadius)
 RgbaPicture drawMoon(const MoonMap& map, int size) {
   constexpr double leastCoverage = 0.3;  // less of the disc in a pixel is left to the sky
   constexpr SkyColor sky = {5.0, 8.0, 24.0};
-  const double discRadius = size / 2 - 0.5;
+  const int middle = size / 2;
+  const double discRadius = middle - 0.5;
   RgbaPicture picture(size, size);
   for (int y = 0; y < size; ++y) {
     for (int x = 0; x < size; ++x) {
-      const Reduced reduced = reduce(map, x - size / 2, y - size / 2, discRadius);
+      const Reduced reduced = reduce(map, x - middle, y - middle, discRadius);
       if (reduced.coverage < leastCoverage) {
         continue;
       }

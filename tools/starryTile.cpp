@@ -131,7 +131,8 @@ void fillPalette(IndexedBitmap& bitmap) {
   for (int hue = 0; hue < skyHues; ++hue) {
     const SkyColor brightest = mix(brightestTeal, brightestViolet, hue / (skyHues - 1.0));
     for (int step = 0; step < skySteps; ++step) {
-      bitmap.palette[static_cast<std::size_t>(hue * skySteps + step)] =
+      const int entry = hue * skySteps + step;
+      bitmap.palette[static_cast<std::size_t>(entry)] =
           toRgb(mix(darkestSky, brightest, step / (skySteps - 1.0)));
     }
   }
@@ -139,7 +140,8 @@ void fillPalette(IndexedBitmap& bitmap) {
     const SkyColor& color = starTints[static_cast<std::size_t>(tint)];
     for (int step = 0; step < starSteps; ++step) {
       const double level = levelOfStep(step);
-      bitmap.palette[static_cast<std::size_t>(skyEntries + tint * starSteps + step)] =
+      const int entry = skyEntries + tint * starSteps + step;
+      bitmap.palette[static_cast<std::size_t>(entry)] =
           toRgb({meanSky.red + level * color.red, meanSky.green + level * color.green,
                  meanSky.blue + level * color.blue});
     }

@@ -2,6 +2,7 @@
 #include "sounds/blues.h"
 
 #include <array>
+#include <cmath>
 
 #include "sounds/reverb.h"
 #include "sounds/score.h"
@@ -58,7 +59,7 @@ constexpr std::array<blues::GuitarNote, 23> song = {{
 }  // namespace
 
 Track feelingBlue() {
-  Track track(rate, static_cast<std::size_t>(seconds * rate + 0.5), Ending::Loops);
+  Track track(rate, static_cast<std::size_t>(std::lround(seconds * rate)), Ending::Loops);
   for (const blues::GuitarNote& note : song) {
     blues::addGuitar(track, note, eighth);
   }

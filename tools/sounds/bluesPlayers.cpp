@@ -63,6 +63,7 @@ void addGuitar(Track& track, const GuitarNote& note, double beatSeconds) {
   const std::size_t count = track.indexOf(length + 0.09);
   std::vector<Partial> partials = stringPartials();
   std::vector<double> factors;
+  factors.reserve(partials.size());
   for (const Partial& partial : partials) {
     factors.push_back(decayFactor(partial.seconds * twoToThe((62.0 - note.key) / 24.0), track.rate));
   }

@@ -40,6 +40,7 @@ class Line {
 
 void addRoom(Track& track, const Room& room) {
   std::vector<Line> lines;
+  lines.reserve(lineCount);
   for (const double milliseconds : delays) {
     lines.emplace_back(milliseconds, room, track.rate);
   }

@@ -1,6 +1,7 @@
 // A mono sound in the making, and what is done to it as a whole.
 #pragma once
 
+#include <cmath>
 #include <cstddef>
 #include <vector>
 
@@ -24,7 +25,7 @@ struct Track {
   void add(std::size_t at, double value);
 
   // The index of a moment in seconds from the start, 0 or more.
-  std::size_t indexOf(double seconds) const { return static_cast<std::size_t>(seconds * rate + 0.5); }
+  std::size_t indexOf(double seconds) const { return static_cast<std::size_t>(std::lround(seconds * rate)); }
 
   // Adds another track of the same length, times a factor.
   void mix(const Track& other, double factor);

@@ -116,5 +116,5 @@ void writeAdpcm(const Track& track, const std::string& filename) {
 
 std::size_t wholeBlocks(double seconds, int rate) {
   const auto count = static_cast<std::size_t>(adpcm::blockSamples(adpcm::blockBytes(rate)));
-  return static_cast<std::size_t>(seconds * rate / static_cast<double>(count) + 0.5) * count;
+  return static_cast<std::size_t>(std::lround(seconds * rate / static_cast<double>(count))) * count;
 }
