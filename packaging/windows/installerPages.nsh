@@ -9,7 +9,6 @@
 !define MUI_UNWELCOMEFINISHPAGE_BITMAP "${SCRIPTS}\welcome.bmp"
 !define MUI_FINISHPAGE_NOREBOOTSUPPORT
 !define MUI_UNFINISHPAGE_NOREBOOTSUPPORT
-!define MUI_FINISHPAGE_NOAUTOCLOSE
 
 Var endText
 Var checkBox
@@ -26,8 +25,6 @@ Page custom showChoice leaveChoice
 
 !define MUI_PAGE_HEADER_TEXT "Putting Lunaria in its place"
 !define MUI_PAGE_HEADER_SUBTEXT "This takes a moment."
-!define MUI_INSTFILESPAGE_FINISHHEADER_TEXT "Lunaria is installed"
-!define MUI_INSTFILESPAGE_FINISHHEADER_SUBTEXT "All is in its place."
 !insertmacro MUI_PAGE_INSTFILES
 
 !define MUI_FINISHPAGE_TITLE "Good night!"
@@ -38,7 +35,6 @@ Page custom showChoice leaveChoice
 UninstPage custom un.showQuestion un.leaveQuestion
 !define MUI_PAGE_HEADER_TEXT "Removing Lunaria"
 !define MUI_PAGE_HEADER_SUBTEXT "This takes a moment."
-!define MUI_UNINSTFILESPAGE_FINISHHEADER_TEXT "Lunaria is removed"
 !insertmacro MUI_UNPAGE_INSTFILES
 !define MUI_FINISHPAGE_TITLE "Lunaria is removed"
 !define MUI_FINISHPAGE_TEXT "$endText"

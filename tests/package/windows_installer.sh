@@ -107,6 +107,7 @@ check "with /PURGE: the registry is as before" same_part before purged ''
 
 . "$here/windows/installer_cases.sh"
 . "$here/windows/installer_choice.sh"
+. "$here/windows/installer_pages.sh"
 keep_state after
 check "after all of it: no file is left" [ -z "$(added_files before after)" ]
 check "after all of it: the registry is as before" same_part before after ''
