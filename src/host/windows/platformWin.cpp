@@ -5,6 +5,7 @@
 #include "host/programVersion.h"
 #include "host/sheet/soundPreview.h"
 #include "host/sheet/windows/propertySheet.h"
+#include "host/windows/pausableTimer.h"
 #include "services/platform.h"
 
 namespace {
@@ -24,11 +25,11 @@ BOOL CALLBACK appendMonitor(HMONITOR, HDC, LPRECT edges, LPARAM list) {
 }  // namespace
 
 std::uintptr_t xplStartTimer(xplWindowHandle window, std::uintptr_t wantedId, unsigned milliseconds) {
-  return SetTimer(window, wantedId, milliseconds, nullptr);
+  return pausableTimer::start(window, wantedId, milliseconds);
 }
 
 void xplStopTimer(xplWindowHandle window, std::uintptr_t id) {
-  KillTimer(window, id);
+  pausableTimer::stop(window, id);
 }
 
 void xplInvalidateClientArea(xplWindowHandle window) {

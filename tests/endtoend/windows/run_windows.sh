@@ -8,10 +8,11 @@ root=$(cd "$here/../../.." && pwd)
 program=$(realpath "${1:-$root/build/windows/bin/Lunaria.scr}")
 build=$(dirname "$(dirname "$program")")
 parent_program=$build/tests/endtoend/windows/preview_parent.exe
+display_state=$build/tests/endtoend/windows/display_state.exe
 out=$build/endtoend
 . "$here/harness.sh"
 
-for file in "$program" "$parent_program"; do
+for file in "$program" "$parent_program" "$display_state"; do
   [ -e "$file" ] || { echo "$file is not built" >&2; exit 2; }
 done
 start_display
@@ -46,6 +47,7 @@ full_run_ended_by key xdotool key a
 . "$here/startup.sh"
 . "$here/sound.sh"
 . "$here/usage.sh"
+. "$here/display_off.sh"
 
 # A second full run gives way to the first.
 start_saver /s

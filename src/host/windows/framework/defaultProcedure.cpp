@@ -1,7 +1,9 @@
 // The framework's answer to the messages that the saver leaves to it: input ends the full run.
 #include <cstdlib>
 
+#include "host/windows/framework/displayState.h"
 #include "host/windows/framework/saverWindow.h"
+#include "host/windows/pausableTimer.h"
 
 namespace {
 
@@ -88,6 +90,9 @@ LRESULT answerInFullRun(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
   if (message == WM_SYSCOMMAND && isRefusedCommand(wParam)) {
     return 0;
   }
+  if (message == WM_POWERBROADCAST) {
+    followDisplayState(wParam, lParam);
+  }
   if (isInput(message, lParam) || takesTheScreenAway(message, wParam)) {
     PostMessageA(window, WM_CLOSE, 0, 0);
   }
@@ -100,6 +105,7 @@ LRESULT WINAPI DefScreenSaverProc(HWND window, UINT message, WPARAM wParam, LPAR
   switch (message) {
     case WM_DESTROY:
       firstPointerPosition.forget();
+      pausableTimer::forget();
       PostQuitMessage(0);
       return 0;
     case WM_ENDSESSION:

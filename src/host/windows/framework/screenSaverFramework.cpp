@@ -10,6 +10,7 @@
 
 #include "host/windows/configureDialog.h"
 #include "host/windows/framework/commandLine.h"
+#include "host/windows/framework/displayState.h"
 #include "host/windows/framework/saverWindow.h"
 
 namespace {
@@ -55,7 +56,11 @@ int runFull(HINSTANCE instance) {
     return ended;
   }
   HWND window = registerSaverClass(instance) ? makeFullRunWindow(instance) : nullptr;
-  return window ? run(window, nullptr) : failed;
+  if (!window) {
+    return failed;
+  }
+  const DisplayNotification notification(window);
+  return run(window, nullptr);
 }
 
 int runPreview(HINSTANCE instance, HWND parent) {
