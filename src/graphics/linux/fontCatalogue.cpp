@@ -122,6 +122,11 @@ std::optional<FontFile> FontCatalogue::find(const FontRequest& request) const {
   return fileOf(regular.get());
 }
 
+std::string FontCatalogue::familyOf(const FontRequest& request) const {
+  const Pattern regular = m_configuration->match(patternOf(request, FC_WEIGHT_REGULAR).get());
+  return regular ? textOf(*regular, FC_FAMILY) : "";
+}
+
 std::optional<FontFile> FontCatalogue::findWithCharacter(const FontRequest& request,
                                                          char32_t character) const {
   const FcFontSet* fonts = m_configuration->allFontsFor(request);

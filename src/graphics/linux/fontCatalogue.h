@@ -31,6 +31,8 @@ class FontCatalogue {
   // The file nearest to the request; nothing only where the system has no font with outlines. A thin face is
   // taken only from the family that the same name gives without it.
   std::optional<FontFile> find(const FontRequest& request) const;
+  // The name of the family that is nearest to the request; "" where there is none.
+  std::string familyOf(const FontRequest& request) const;
   // A file that has the character, as near to the request as there is one; nothing where no font with
   // outlines has it. Quick while the requests are the same.
   std::optional<FontFile> findWithCharacter(const FontRequest& request, char32_t character) const;

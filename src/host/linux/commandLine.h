@@ -16,6 +16,7 @@ struct HostRequest {
     configuration,
     installXScreenSaver,    // put Lunaria into the user's XScreenSaver and choose it
     uninstallXScreenSaver,  // and take it out again
+    doctor,                 // look at the system, and say what is not well
     help,
     version
   };

@@ -17,6 +17,7 @@ inline constexpr std::array plainModes{
     PlainMode{"configure", HostRequest::Mode::configuration},
     PlainMode{"install-xscreensaver", HostRequest::Mode::installXScreenSaver},
     PlainMode{"uninstall-xscreensaver", HostRequest::Mode::uninstallXScreenSaver},
+    PlainMode{"doctor", HostRequest::Mode::doctor},
     PlainMode{"help", HostRequest::Mode::help},
     PlainMode{"version", HostRequest::Mode::version},
 };

@@ -25,6 +25,8 @@ Without an option it covers the whole screen until a key, a button or the pointe
                         take it out of XScreenSaver again; what was chosen before comes back
   --stats               at the end of a run print its frames, the milliseconds that one took, and the share of
                         the processor
+  --doctor              look at the desktop, its screen saver, fonts, sound, sleep and files, say what is not
+                        well, and how to mend it
   --help                show this text
   --version             show the version
 

@@ -135,5 +135,6 @@ void KeepAwakeLinux::takeAnswer(sd_bus_message& message) {
 
 void KeepAwakeLinux::refuse(const std::string& reason) {
   logWarning().addf("sleep cannot be prevented: %s", reason.c_str());
+  m_refusal = reason;
   m_state = State::refused;
 }

@@ -23,6 +23,11 @@ class KeepAwakeLinux : public xpliKeepAwake {
   // Closes the descriptor that logind gave; the computer may sleep from then on.
   void release() override;
 
+  // The computer is kept awake.
+  bool isGranted() const { return m_state == State::granted; }
+  // Why the last request was refused; "" where none was.
+  const std::string& refusal() const { return m_refusal; }
+
   // The longest that request() waits: no frame shall be late for it.
   static constexpr std::chrono::milliseconds longestWait{60};
 
@@ -44,5 +49,6 @@ class KeepAwakeLinux : public xpliKeepAwake {
   std::chrono::steady_clock::time_point m_askedAt;
   Bus m_bus;
   State m_state = State::idle;
+  std::string m_refusal;
   std::optional<OpenFile> m_inhibitor;  // held: the computer stays awake
 };

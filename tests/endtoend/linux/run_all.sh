@@ -19,6 +19,7 @@ scripts=(
   environments
   power
   stats
+  doctor
   window
   resources
   services

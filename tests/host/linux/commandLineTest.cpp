@@ -175,10 +175,16 @@ TEST(CommandLine, XScreenSaverIsInstalledIntoAndTakenOutOf) {
   EXPECT_EQ(errorOf({"--install-xscreensaver=1"}).text, "unknown option '--install-xscreensaver=1'");
 }
 
+TEST(CommandLine, DoctorLooksAtTheSystem) {
+  EXPECT_EQ(requestOf({"--doctor"}).mode, Mode::doctor);
+  EXPECT_EQ(requestOf({"-doctor"}).mode, Mode::doctor);
+  EXPECT_EQ(errorOf({"--doctor=1"}).text, "unknown option '--doctor=1'");
+}
+
 TEST(CommandLine, StatisticsGoWithEveryRunWhereverTheOptionStands) {
   EXPECT_FALSE(requestOf({"/s"}).hasStatistics);
   for (const Words& words :
-       {Words{"--stats"}, Words{"-stats"}, Words{"--stats", "/s"}, Words{"/s", "--stats"},
+       {Words{"--stats"}, Words{"-stats"}, Words{"--stats", "--doctor", "/s"}, Words{"/s", "--stats"},
         Words{"--stats", "--window", "8x8"}, Words{"--root", "--stats"}, Words{"--stats", "/p", "5"},
         Words{"/p", "5", "--stats"}}) {
     EXPECT_TRUE(requestOf(words).hasStatistics) << words[0];

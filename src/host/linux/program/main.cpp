@@ -10,6 +10,7 @@
 
 #include "host/linux/commandLine.h"
 #include "host/linux/displayChoice.h"
+#include "host/linux/doctor/doctor.h"
 #include "host/linux/hostFailure.h"
 #include "host/linux/run.h"
 #include "host/linux/xscreensaver.h"
@@ -66,6 +67,13 @@ int change(const std::function<std::string()>& work) {
   return EXIT_SUCCESS;
 }
 
+// Without a log, as above.
+int tellDiagnosis() {
+  const Diagnosis diagnosis = diagnose();
+  std::cout << diagnosis.report;
+  return diagnosis.isWell ? EXIT_SUCCESS : EXIT_FAILURE;
+}
+
 int start(const std::string& program, const HostRequest& request) {
   xplAppLinux::setArguments(canonicalArguments(program, request));
   switch (request.mode) {
@@ -75,6 +83,8 @@ int start(const std::string& program, const HostRequest& request) {
     case HostRequest::Mode::version:
       std::cout << versionText();
       return EXIT_SUCCESS;
+    case HostRequest::Mode::doctor:
+      return tellDiagnosis();
     case HostRequest::Mode::configuration:
       return startConfiguration();
     case HostRequest::Mode::installXScreenSaver:
