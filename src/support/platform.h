@@ -1,8 +1,8 @@
 // The seam of the support library: what a platform supplies to it, and under which common names.
 //
 // Whoever writes the next platform supplies: the functions of fileSystemPlatform.h; the file operations,
-// separator, isSeparator and lineEnd of xplFileSystemMini; xplWriteToDebugger; xplClock's localTime,
-// universalTime and momentOfLocalTime; and an application class derived from xplAppBase.
+// separator, isSeparator and lineEnd of xplFileSystemMini; xplSaveLock; xplWriteToDebugger; xplClock's
+// localTime, universalTime and momentOfLocalTime; and an application class derived from xplAppBase.
 #pragma once
 
 #if defined(_WIN32)

@@ -9,6 +9,7 @@
 #include "support/assertion.h"
 #include "support/fileSystem.h"
 #include "support/log.h"
+#include "support/saveLock.h"
 #include "support/settingsFormat.h"
 
 namespace {
@@ -112,6 +113,7 @@ bool xplSettings::reload() {
 }
 
 bool xplSettings::save() {
+  const xplSaveLock lock(m_filename);
   m_saveError = "the file is there but could not be read, and is left as it is";
   std::map<std::string, std::string> merged;
   if (mergeWithFile(merged) &&

@@ -71,7 +71,8 @@ class xplSettings {
  private:
   // Writes the file as it is now with our own changes over it: what another program has written to it in the
   // meantime (the settings sheet while a saver runs, a second sheet) is kept, and taken over. A file that
-  // cannot be read is not written, for that would destroy what it holds.
+  // cannot be read is not written, for that would destroy what it holds. Another program that is saving at
+  // the same moment is waited for (xplSaveLock).
   bool save();
   bool mergeWithFile(std::map<std::string, std::string>& merged);
   void saveOrReport();
