@@ -44,7 +44,8 @@ class xplFileSystemMini {
   static bool copyFileIntoFolder(const std::string& path, const std::string& folder);
   // Replaces the file whole or not at all: a new file beside it is written, flushed and renamed over it. The
   // bytes are written as they stand. A symbolic link stays, and what it leads to is replaced; a file keeps
-  // its mode. On failure the old file is untouched, false is returned, and errorMessage holds the system's
+  // its mode. Where the system does not replace a file that is being read, it is waited for, 50 milliseconds
+  // at most. On failure the old file is untouched, false is returned, and errorMessage holds the system's
   // message.
   static bool replaceFile(const std::string& path, std::string_view content, std::string& errorMessage);
 

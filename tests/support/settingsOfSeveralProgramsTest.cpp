@@ -1,5 +1,6 @@
 // Tests the settings store where something else writes to its file, or opens it, at the same time.
 #include <cstdio>
+#include <fstream>
 
 #include "support/settingsFixture.h"
 
@@ -71,4 +72,30 @@ TEST_F(Settings, StoresOfTheProcessAreOpenedOnceAndClosedTogether) {
   given("a=2\n");
   EXPECT_EQ(xplUserSettings().get("a"), "2");
   xplCloseSettings();
+}
+
+// Another program that reads the file, until someone waits for it.
+class ReaderUntilWaitedFor : public xplManualClock {
+ public:
+  explicit ReaderUntilWaitedFor(const std::string& path)
+      : xplManualClock({1463865300, 0}), m_file(path, std::ios::binary) {}
+  using xplManualClock::sleep;
+  void sleep(unsigned milliseconds) override {
+    m_file.close();
+    xplManualClock::sleep(milliseconds);
+  }
+
+ private:
+  std::ifstream m_file;
+};
+
+// On Windows a file that is open cannot be replaced.
+TEST_F(Settings, ASaveWaitsForAProgramThatReadsTheFile) {
+  given("a=1\n");
+  xplSettings store(xplSettings::scopeUser);
+  ReaderUntilWaitedFor reader(file());
+  const xplClock::Override readersClock(reader);
+  store.set("b", "2");
+  EXPECT_EQ(countSaveErrors(), 0);
+  EXPECT_EQ(saved(), "a=1\nb=2\n");
 }
