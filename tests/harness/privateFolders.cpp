@@ -2,6 +2,7 @@
 #include "harness/privateFolders.h"
 
 #include <algorithm>
+#include <ctime>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -88,6 +89,15 @@ std::vector<std::string> PrivateFolders::logEntries() const {
     texts.push_back(entry.text);
   }
   return texts;
+}
+
+void PrivateFolders::setLocalTime(int hour, int minute, int second) {
+  std::tm local = *xplClock::localTime(clock.now().seconds);
+  local.tm_hour = hour;
+  local.tm_min = minute;
+  local.tm_sec = second;
+  local.tm_isdst = -1;
+  clock.set({std::mktime(&local), 0});
 }
 
 int PrivateFolders::countEntriesWith(const std::string& part) const {

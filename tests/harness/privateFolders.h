@@ -30,6 +30,9 @@ class PrivateFolders : public testing::Test {
   // How many entries hold this text anywhere.
   int countEntriesWith(const std::string& part) const;
 
+  // Sets the clock to this local time on the day that it stands at.
+  void setLocalTime(int hour, int minute, int second);
+
   // 2016-05-21 21:15:00 UTC.
   xplManualClock clock{{1463865300, 0}};
 

@@ -1,6 +1,4 @@
 // When the night sky is heard.
-#include <ctime>
-
 #include <gmock/gmock.h>
 
 #include "services/recordingServices.h"
@@ -21,14 +19,6 @@ class SoundOfTheWorld : public World {
   std::unique_ptr<TnoctisWorld> makeAudibleWorld(std::int32_t monitorId) {
     return std::make_unique<TnoctisWorld>(window.get(), monitorId, monitors, "folder",
                                           std::make_unique<RecordingSound>(calls));
-  }
-  void setLocalTime(int hour, int minute, int second) {
-    std::tm local = *xplClock::localTime(clock.now().seconds);
-    local.tm_hour = hour;
-    local.tm_min = minute;
-    local.tm_sec = second;
-    local.tm_isdst = -1;
-    clock.set({std::mktime(&local), 0});
   }
 
   Calls calls;

@@ -1,13 +1,10 @@
 // Implements the connection to the X display.
 #include "host/linux/x11Connection.h"
 
-#include <cerrno>
-
-#include <poll.h>
 #include <sys/socket.h>
 #include <xcb/xcbext.h>
 
-#include "host/linux/stopSignals.h"
+#include "host/linux/readableWait.h"
 
 namespace {
 
@@ -48,19 +45,7 @@ bool X11Connection::isLocal() const {
 }
 
 bool X11Connection::waitForInput() {
-  pollfd waits[] = {{xcb_get_file_descriptor(m_connection), POLLIN, 0},
-                    {m_stopSignals != nullptr ? m_stopSignals->descriptor() : -1, POLLIN, 0}};
-  for (;;) {
-    if (!isUsable() || (m_stopSignals != nullptr && m_stopSignals->arrived())) {
-      return false;
-    }
-    if (::poll(waits, 2, -1) > 0) {
-      return waits[1].revents == 0;
-    }
-    if (errno != EINTR && errno != EAGAIN) {
-      return false;
-    }
-  }
+  return isUsable() && waitUntilReadable(xcb_get_file_descriptor(m_connection), m_stopSignals);
 }
 
 void* X11Connection::awaitReply(unsigned sequence) {

@@ -119,6 +119,15 @@ class SoundSystemThatHangs : public Audible {
 
   // Gives the player the time to come to the place where it hangs. True where its sound ends instead.
   static bool soundEndsSoon() { return SoundWorker::shared()->waitUntilSilent(milliseconds(200)); }
+  // True where the output takes further wishes, and its end, without waiting for the sound system.
+  static bool isLeftAtOnce(std::unique_ptr<xpliSoundOutput> output) {
+    const auto start = Clock::now();
+    output->stop();
+    output->play(111, false);
+    const auto asked = Clock::now() - start;
+    output.reset();
+    return asked < milliseconds(50) && Clock::now() - start < milliseconds(300);
+  }
   // Ends the process without the usual flushing of its files, one of which is the pipe that hangs.
   void endWith(bool isGood) {
     std::filesystem::remove_all(root());
@@ -131,13 +140,7 @@ TEST_F(SoundSystemThatHangs, WhileItIsOpenedHoldsNobodyUp) {
     const SoundPipe nobodyReads(newPath());
     auto output = xplMakeSoundOutput();
     output->play(112, true);
-    const bool isOver = soundEndsSoon();
-    const auto start = Clock::now();
-    output->stop();
-    output->play(111, false);
-    const auto asked = Clock::now() - start;
-    output.reset();
-    endWith(!isOver && asked < milliseconds(50) && Clock::now() - start < milliseconds(300));
+    endWith(!soundEndsSoon() && isLeftAtOnce(std::move(output)));
   };
   EXPECT_EXIT(run(), testing::ExitedWithCode(0), "");
 }
@@ -149,13 +152,7 @@ TEST_F(SoundSystemThatHangs, WhileItPlaysHoldsNobodyUp) {
     output->play(112, true);
     pipe.open();
     pipe.read(1000);  // and nothing more
-    const bool isOver = soundEndsSoon();
-    const auto start = Clock::now();
-    output->stop();
-    output->play(111, false);
-    const auto asked = Clock::now() - start;
-    output.reset();
-    endWith(!isOver && asked < milliseconds(50) && Clock::now() - start < milliseconds(300));
+    endWith(!soundEndsSoon() && isLeftAtOnce(std::move(output)));
   };
   EXPECT_EXIT(run(), testing::ExitedWithCode(0), "");
 }

@@ -1,7 +1,6 @@
 // What is really played on Linux: each sound from its first sample to its last, alone, and for as long as it
 // should.
 #include <algorithm>
-#include <ctime>
 
 #include <gmock/gmock.h>
 
@@ -49,14 +48,6 @@ class SoundOutputOfLinux : public Audible {
     }
     bytes.resize(count);
     return bytes;
-  }
-  void setLocalTime(int hour, int minute, int second) {
-    std::tm local = *xplClock::localTime(clock.now().seconds);
-    local.tm_hour = hour;
-    local.tm_min = minute;
-    local.tm_sec = second;
-    local.tm_isdst = -1;
-    clock.set({std::mktime(&local), 0});
   }
 };
 

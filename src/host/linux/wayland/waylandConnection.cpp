@@ -1,15 +1,12 @@
 // Implements the connection to the compositor on the library's steps that do not wait.
 #include "host/linux/wayland/waylandConnection.h"
 
-#include <cerrno>
 #include <cstdarg>
 #include <cstdio>
 #include <cstdlib>
 #include <string_view>
 
-#include <poll.h>
-
-#include "host/linux/stopSignals.h"
+#include "host/linux/readableWait.h"
 #include "host/linux/wayland/proxy.h"
 #include "support/log.h"
 
@@ -86,19 +83,7 @@ bool WaylandConnection::waitAndDispatch() {
 }
 
 bool WaylandConnection::waitForInput() const {
-  pollfd waits[] = {{descriptor(), POLLIN, 0},
-                    {m_stopSignals != nullptr ? m_stopSignals->descriptor() : -1, POLLIN, 0}};
-  for (;;) {
-    if (!isUsable() || (m_stopSignals != nullptr && m_stopSignals->arrived())) {
-      return false;
-    }
-    if (::poll(waits, 2, -1) > 0) {
-      return waits[1].revents == 0;
-    }
-    if (errno != EINTR && errno != EAGAIN) {
-      return false;
-    }
-  }
+  return isUsable() && waitUntilReadable(descriptor(), m_stopSignals);
 }
 
 void WaylandConnection::dispatchArrived() {
