@@ -57,7 +57,7 @@ check_none "A clock or a random source outside support" \
 # Every text speaks for itself, not of papers that its readers do not have. Licences are not our own words.
 papers='\bparts?[[:space:]]+[0-9]|\bthe[[:space:]]spec\b|\bspecificatio[n]|left to the implemente[r]|\bissues?[[:space:]]+#?[0-9]'
 speaks_of_papers() { grep -qiE "$papers"; }
-for words in "Part 5".2 "parts "1 "the"' spec says' "The Specific"ation "left to the"' implementer' "issue "12 "Issue #"7; do
+for words in "Part "5.2 "parts "1 "the"' spec says' "The Specific"ation "left to the"' implementer' "issue "12 "Issue #"7; do
   speaks_of_papers <<< "as $words" || complain "The search for papers overlooks" "$words"
 done
 for words in "the special part of 3 inspectors" "with respect to specific issues" "the specs" "a part, 2 pixels wide" "counterpart 1"; do
