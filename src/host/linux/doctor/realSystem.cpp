@@ -83,7 +83,8 @@ OwnFiles RealSystem::ownFiles() {
   const std::string userFolder = below(xplFileSystemMini::getFolder_UserData(), "Lunaria software");
   return {.settings = below(userFolder, "Lunaria screensaver.ini"),
           .quotes = below(userFolder, "userQuotes.txt"),
-          .usage = below(cTelemetryController::cacheFolder(), "usage.txt"),
+          .usage = below(cTelemetryController::cacheFolderIn(xplFileSystemMini::getFolder_CommonAppData()),
+                         "usage.txt"),
           .log = below(xplFileSystemMini::getFolder_Temporary(), "Lunaria.xplLog.txt")};
 }
 
