@@ -5,8 +5,8 @@
 
 #include "host/linux/wayland/pictureParts.h"
 
-FrameBuffers::FrameBuffers(wl_shm* sharedMemory, int width, int height)
-    : m_sharedMemory(sharedMemory), m_width(width), m_height(height) {
+FrameBuffers::FrameBuffers(wl_shm* sharedMemory, const xplEdges& place)
+    : m_sharedMemory(sharedMemory), m_place(place) {
   m_buffers.reserve(most);
 }
 
@@ -26,8 +26,8 @@ ShmBuffer* FrameBuffers::pick() {
     return free->get();
   }
   if (m_buffers.size() < most) {
-    if (auto added = ShmBuffer::make(m_sharedMemory, m_width, m_height)) {
-      added->outdated().push_back({0, 0, m_width, m_height});
+    if (auto added = ShmBuffer::make(m_sharedMemory, m_place)) {
+      added->outdated().markAll();
       m_buffers.push_back(std::move(added));
       return m_buffers.back().get();
     }
@@ -35,28 +35,46 @@ ShmBuffer* FrameBuffers::pick() {
   return nullptr;
 }
 
-PixelMemory* FrameBuffers::drawing() {
+xplEdges FrameBuffers::inBuffer(const xplEdges& part) const {
+  return {part.left - m_place.left, part.top - m_place.top, part.right - m_place.left,
+          part.bottom - m_place.top};
+}
+
+// Before the first frame there is nothing to bring: new buffers are black.
+void FrameBuffers::bringUpToDate(const xplEdges& tile) {
+  if (m_shown != nullptr) {
+    copyPixels(*m_shown, tile, *m_drawing, tile.left, tile.top);
+  }
+}
+
+bool FrameBuffers::draw(const PixelMemory& picture, const std::vector<xplEdges>& parts) {
   if (m_drawing == nullptr) {
     m_drawing = pick();
-    if (m_drawing != nullptr && m_shown != nullptr && m_drawing != m_shown) {
-      for (const xplEdges& part : m_drawing->outdated()) {
-        copyPixels(*m_shown, part, *m_drawing, part.left, part.top);
-      }
-    }
-    if (m_drawing != nullptr) {
-      m_drawing->outdated().clear();
-    }
   }
-  return m_drawing;
+  if (m_drawing == nullptr) {
+    return false;
+  }
+  for (const xplEdges& part : parts) {
+    const xplEdges here = inBuffer(part);
+    if (m_drawing->outdated().isAnyMarked()) {
+      // What is drawn over needs not to be brought up to date before.
+      m_drawing->outdated().cover(here, [&](const xplEdges& tile) { bringUpToDate(tile); });
+    }
+    copyPixels(picture, part, *m_drawing, here.left, here.top);
+  }
+  return true;
 }
 
 void FrameBuffers::show(wl_surface* surface, const std::vector<xplEdges>& changed) {
   if (m_drawing == nullptr) {
     return;
   }
+  m_drawing->outdated().takeAll([&](const xplEdges& tile) { bringUpToDate(tile); });
   for (const auto& buffer : m_buffers) {
     if (buffer.get() != m_drawing) {
-      addParts(buffer->outdated(), changed, {0, 0, m_width, m_height});
+      for (const xplEdges& part : changed) {
+        buffer->outdated().mark(inBuffer(part));
+      }
     }
   }
   m_drawing->attachTo(surface);

@@ -9,7 +9,7 @@
 
 // More parts than these are not told apart any more, but counted as one: naming each costs more than it
 // saves.
-inline constexpr std::size_t mostParts = 512;
+inline constexpr std::size_t mostParts = 1024;
 
 // What two parts have in common; empty where that is nothing.
 xplEdges commonPart(const xplEdges& one, const xplEdges& other);

@@ -67,8 +67,10 @@ void SaverSurface::renewBuffers() {
     m_former.emplace(std::move(*m_buffers));
   }
   const xplEdges& usual = m_place.onPicture;
-  m_buffers.emplace(m_sharedMemory, pixelsOf(m_width, m_place.width, usual.right - usual.left, m_place.scale),
-                    pixelsOf(m_height, m_place.height, usual.bottom - usual.top, m_place.scale));
+  m_shown = {usual.left, usual.top,
+             usual.left + pixelsOf(m_width, m_place.width, usual.right - usual.left, m_place.scale),
+             usual.top + pixelsOf(m_height, m_place.height, usual.bottom - usual.top, m_place.scale)};
+  m_buffers.emplace(m_sharedMemory, m_shown);
   if (m_viewport) {
     wp_viewport_set_destination(m_viewport.get(), m_width, m_height);
   }
@@ -85,27 +87,23 @@ void SaverSurface::draw(const PixelMemory& picture, std::span<const xplEdges> pa
   if (!m_buffers) {
     return;
   }
-  const int left = m_place.onPicture.left;
-  const int top = m_place.onPicture.top;
-  const xplEdges shown{std::max(left, 0), std::max(top, 0),
-                       std::min(left + m_buffers->width(), picture.width()),
-                       std::min(top + m_buffers->height(), picture.height())};
-  PixelMemory* const drawing = m_buffers->drawing();
-  if (drawing == nullptr) {
-    m_isContentLost = true;
-    return;
-  }
-  const xplEdges all{0, 0, m_buffers->width(), m_buffers->height()};
+  const xplEdges shown = commonPart(m_shown, {0, 0, picture.width(), picture.height()});
+  m_visible.clear();
   for (const xplEdges& part : parts) {
     const xplEdges visible = commonPart(part, shown);
     if (!isEmpty(visible)) {
-      const xplEdges here{visible.left - left, visible.top - top, visible.right - left, visible.bottom - top};
-      copyPixels(picture, visible, *drawing, here.left, here.top);
-      addParts(m_changed, {&here, 1}, all);
+      m_visible.push_back(visible);
     }
   }
-  if (m_isWholeNew) {
-    m_changed.assign(1, all);
+  if (m_visible.empty() && !m_isWholeNew) {
+    return;
+  }
+  if (!m_buffers->draw(picture, m_visible)) {
+    m_isContentLost = true;
+  } else if (m_isWholeNew) {
+    m_changed.assign(1, m_shown);
+  } else {
+    addParts(m_changed, m_visible, m_shown);
   }
 }
 
@@ -131,8 +129,8 @@ void SaverSurface::tellChanges() {
     return;
   }
   for (const xplEdges& part : m_changed) {
-    wl_surface_damage_buffer(m_surface.get(), part.left, part.top, part.right - part.left,
-                             part.bottom - part.top);
+    wl_surface_damage_buffer(m_surface.get(), part.left - m_shown.left, part.top - m_shown.top,
+                             part.right - part.left, part.bottom - part.top);
   }
 }
 

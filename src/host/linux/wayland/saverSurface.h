@@ -61,9 +61,11 @@ class SaverSurface : private SurfaceRoleEvents {
   Proxy<wl_callback> m_frameWanted;  // until the compositor wants another frame
   int m_width = 0;                   // logical pixels, as the compositor gave them; 0 before
   int m_height = 0;
+  xplEdges m_shown;                       // what it shows of the picture, in its pixels
   std::optional<FrameBuffers> m_buffers;  // once there is a size
   std::optional<FrameBuffers> m_former;   // what is shown until the first frame of another size
-  std::vector<xplEdges> m_changed;        // drawn and not shown yet, in pixels of the surface
+  std::vector<xplEdges> m_visible;        // room for the parts that draw() shows
+  std::vector<xplEdges> m_changed;        // drawn and not shown yet, in pixels of the picture
   bool m_isWholeNew = false;              // nothing of the buffers' size was shown yet
   bool m_isContentLost = false;
   bool m_isClosed = false;

@@ -26,8 +26,10 @@ void noteRelease(void* isBeingRead, wl_buffer*) {
 
 }  // namespace
 
-std::unique_ptr<ShmBuffer> ShmBuffer::make(wl_shm* sharedMemory, int width, int height) {
+std::unique_ptr<ShmBuffer> ShmBuffer::make(wl_shm* sharedMemory, const xplEdges& place) {
   static const wl_buffer_listener listener{noteRelease};
+  const int width = place.right - place.left;
+  const int height = place.bottom - place.top;
   const std::size_t size = static_cast<std::size_t>(width) * static_cast<std::size_t>(height) * 4;
   if (size > INT_MAX) {
     return nullptr;  // more than the protocol can count
@@ -40,7 +42,7 @@ std::unique_ptr<ShmBuffer> ShmBuffer::make(wl_shm* sharedMemory, int width, int 
   if (address == MAP_FAILED) {
     return nullptr;
   }
-  std::unique_ptr<ShmBuffer> buffer(new ShmBuffer(width, height, address, size));
+  std::unique_ptr<ShmBuffer> buffer(new ShmBuffer(place, address, size));
   const Proxy<wl_shm_pool> pool(wl_shm_create_pool(sharedMemory, file.get(), static_cast<int>(size)));
   buffer->m_buffer.reset(
       wl_shm_pool_create_buffer(pool.get(), 0, width, height, width * 4, WL_SHM_FORMAT_XRGB8888));
@@ -48,8 +50,12 @@ std::unique_ptr<ShmBuffer> ShmBuffer::make(wl_shm* sharedMemory, int width, int 
   return buffer;
 }
 
-ShmBuffer::ShmBuffer(int width, int height, void* address, std::size_t size)
-    : m_width(width), m_height(height), m_address(address), m_size(size) {}
+ShmBuffer::ShmBuffer(const xplEdges& place, void* address, std::size_t size)
+    : m_width(place.right - place.left),
+      m_height(place.bottom - place.top),
+      m_address(address),
+      m_size(size),
+      m_outdated(m_width, m_height, place.left, place.top) {}
 
 ShmBuffer::~ShmBuffer() {
   ::munmap(m_address, m_size);

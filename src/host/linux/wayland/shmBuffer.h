@@ -4,16 +4,16 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
-#include <vector>
 
-#include "graphics/linux/edges.h"
 #include "graphics/linux/pixelMemory.h"
 #include "host/linux/wayland/proxy.h"
+#include "host/linux/wayland/tileMarks.h"
 
 class ShmBuffer : public PixelMemory {
  public:
-  // Black at first. Sizes in pixels, above 0. Null where there is not that much memory.
-  static std::unique_ptr<ShmBuffer> make(wl_shm* sharedMemory, int width, int height);
+  // place: the part of the picture that it is for, in pixels, not empty. Black at first. Null where there is
+  // not that much memory.
+  static std::unique_ptr<ShmBuffer> make(wl_shm* sharedMemory, const xplEdges& place);
   ~ShmBuffer() override;
   ShmBuffer(const ShmBuffer&) = delete;
   ShmBuffer& operator=(const ShmBuffer&) = delete;
@@ -29,11 +29,11 @@ class ShmBuffer : public PixelMemory {
   void attachTo(wl_surface* surface);
   bool isBeingRead() const { return m_isBeingRead; }
 
-  // Parts that newer frames have changed elsewhere.
-  std::vector<xplEdges>& outdated() { return m_outdated; }
+  // What newer frames have changed elsewhere.
+  TileMarks& outdated() { return m_outdated; }
 
  private:
-  ShmBuffer(int width, int height, void* address, std::size_t size);
+  ShmBuffer(const xplEdges& place, void* address, std::size_t size);
 
   int m_width;
   int m_height;
@@ -41,5 +41,5 @@ class ShmBuffer : public PixelMemory {
   std::size_t m_size;  // bytes
   Proxy<wl_buffer> m_buffer;
   bool m_isBeingRead = false;
-  std::vector<xplEdges> m_outdated;
+  TileMarks m_outdated;
 };

@@ -1,0 +1,57 @@
+// Implements the arithmetic of marked tiles.
+#include "host/linux/wayland/tileMarks.h"
+
+#include <algorithm>
+
+#include "graphics/linux/tileChanges.h"
+
+namespace {
+
+constexpr int tileWidth = TileChanges::tileWidth;
+constexpr int tileHeight = TileChanges::tileHeight;
+
+// In [0, step), for a negative value too.
+int withinTile(int value, int step) {
+  return ((value % step) + step) % step;
+}
+
+}  // namespace
+
+TileMarks::TileMarks(int width, int height, int left, int top)
+    : m_width(width),
+      m_height(height),
+      m_offsetX(withinTile(left, tileWidth)),
+      m_offsetY(withinTile(top, tileHeight)),
+      m_columns((m_offsetX + width - 1) / tileWidth + 1),
+      m_rows((m_offsetY + height - 1) / tileHeight + 1),
+      m_marks(static_cast<std::size_t>(m_columns) * static_cast<std::size_t>(m_rows), 0) {}
+
+int TileMarks::columnOf(int x) const {
+  return (m_offsetX + x) / tileWidth;
+}
+
+int TileMarks::rowOf(int y) const {
+  return (m_offsetY + y) / tileHeight;
+}
+
+xplEdges TileMarks::edgesOf(int column, int row) const {
+  const int left = column * tileWidth - m_offsetX;
+  const int top = row * tileHeight - m_offsetY;
+  return {std::max(left, 0), std::max(top, 0), std::min(left + tileWidth, m_width),
+          std::min(top + tileHeight, m_height)};
+}
+
+void TileMarks::mark(const xplEdges& part) {
+  for (int row = rowOf(part.top); row <= rowOf(part.bottom - 1); ++row) {
+    for (int column = columnOf(part.left); column <= columnOf(part.right - 1); ++column) {
+      std::uint8_t& mark = m_marks[at(column, row)];
+      m_marked += mark == 0 ? 1 : 0;
+      mark = 1;
+    }
+  }
+}
+
+void TileMarks::markAll() {
+  std::fill(m_marks.begin(), m_marks.end(), std::uint8_t{1});
+  m_marked = m_marks.size();
+}
