@@ -21,6 +21,9 @@ scripts=(
   stats
   doctor
   window
+  wayland
+  sway
+  weston
   resources
   services
   sound_server
