@@ -10,7 +10,7 @@
 #include "support/settingsGroups.h"
 
 cTelemetryController::cTelemetryController(MakeAnalytics makeAnalytics) {
-  const std::string folder = cacheFolderIn(xplFileSystemMini::getFolder_CommonAppData());
+  const std::string folder = cacheFolder();
   if (!folder.empty() && !xplFileSystemMini::folderExists(folder)) {
     xplFileSystemMini::createFolder(folder);  // without it the library tells what it thinks of the path
   }
@@ -31,6 +31,10 @@ cTelemetryController::~cTelemetryController() {
   logInfo().add("returned from thread->join(). Will call thread delete");
   m_thread.reset();
   logInfo().add("returned from thread delete");
+}
+
+std::string cTelemetryController::cacheFolder() {
+  return cacheFolderIn(xplFileSystemMini::getFolder_CommonAppData());
 }
 
 std::string cTelemetryController::cacheFolderIn(const std::string& allUsersFolder) {

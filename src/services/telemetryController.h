@@ -18,7 +18,9 @@ class cTelemetryController : public cTelemetryDoAllSteps_Trackerbird {
   cTelemetryController(const cTelemetryController&) = delete;
   cTelemetryController& operator=(const cTelemetryController&) = delete;
 
-  // The folder for the library's files, in the folder of all users' application data. Empty where that is:
+  // The folder for the library's files; empty where the system knows no folder for it.
+  static std::string cacheFolder();
+  // The same, in the folder of all users' application data. Empty where that is:
   // the library then refuses the path, which is logged, and no file is written.
   static std::string cacheFolderIn(const std::string& allUsersFolder);
 

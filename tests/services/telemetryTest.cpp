@@ -74,7 +74,7 @@ TEST_F(Telemetry, MakesTheCacheFolder) {
   EXPECT_FALSE(xplFileSystemMini::folderExists(folder()));
   const auto controller = makeController();
   EXPECT_TRUE(xplFileSystemMini::folderExists(folder()));
-  EXPECT_EQ(cTelemetryController::cacheFolderIn(xplFileSystemMini::getFolder_CommonAppData()), folder());
+  EXPECT_EQ(cTelemetryController::cacheFolder(), folder());
   gate.open();
 }
 

@@ -49,8 +49,7 @@ void initialize(HWND dialog, int page, SettingsSheet& sheet) {
   if (page == messagesPage) {
     initializeMessagesPage(dialog, sheet.messages());
   } else if (page == aboutPage) {
-    SetDlgItemTextA(dialog, controlIds::about,
-                    aboutText(sheet.settingsFile(), aboutLineBreak).c_str());
+    SetDlgItemTextA(dialog, controlIds::about, aboutText(sheet.settingsFile(), aboutLineBreak).c_str());
   }
 }
 
