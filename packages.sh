@@ -10,7 +10,7 @@ windows_packages=(g++-mingw-w64-x86-64-posix nsis)
 test_packages=("${package_packages[@]}" "${windows_packages[@]}" googletest libbenchmark-dev wine wine64 xvfb
   xdotool x11-utils x11-xserver-utils imagemagick fonts-dejavu-core clang-format clang-tidy procps tzdata
   dbus-daemon python3-dbusmock pulseaudio pulseaudio-utils desktop-file-utils
-  lintian appstream libxml2-utils man-db fakeroot xscreensaver-data)
+  lintian appstream libxml2-utils man-db fakeroot xscreensaver-data xscreensaver)
 # Tests that miss one of these say so and pass.
 optional_test_packages=(sway swaybg weston grim wtype)
 

@@ -105,6 +105,42 @@ shows_sky() { [ "$(colours "$1")" -gt 20 ]; }
 frame_is_not() { [ "$(frame "$1")" != "$2" ]; }
 frames_advance() { until_true 5 frame_is_not "$1" "$(frame "$1")"; }
 
+# pixels_moved PROCESS WINDOW PAUSE: how many pixels of the screen differ between what a saver shows when it is stopped
+# and its first frame when it has gone on after so many seconds. pixels_moved_in SECONDS: while it runs.
+pixels_moved() {
+  local halted
+  kill -STOP "$1"
+  import -window root "$work/halt.png"
+  halted=$(frame "$2")
+  sleep "$3" # the pause is what is tried
+  kill -CONT "$1"
+  until_true 5 frame_is_not "$2" "$halted"
+  kill -STOP "$1"
+  import -window root "$work/next.png"
+  kill -CONT "$1"
+  differing
+}
+pixels_moved_in() {
+  import -window root "$work/halt.png"
+  sleep "$1" # the time is what is tried
+  import -window root "$work/next.png"
+  differing
+}
+differing() { compare -metric AE "$work/halt.png" "$work/next.png" null: 2>&1; }
+# goes_on_where_it_stopped PROCESS WINDOW: a pause of two seconds moves far less than two seconds of its run do. Best of
+# three, since a message may begin to fly in any frame.
+goes_on_where_it_stopped() {
+  local step least=999999999 run=0
+  for _ in 1 2 3; do
+    step=$(pixels_moved "$1" "$2" 2)
+    least=$((step < least ? step : least))
+    step=$(pixels_moved_in 2)
+    run=$((step > run ? step : run))
+  done
+  echo "        pixels that differ after a pause: $least, after a run of that time: $run"
+  [ "$run" -gt 2000 ] && [ $((least * 4)) -lt "$run" ]
+}
+
 # start_window GEOMETRY [DEPTH|input-only]: a window of another program; sets window. tell_window LINE.
 start_window() {
   coproc foreign { "$helper" window "$@"; }

@@ -27,6 +27,7 @@ scripts=(
   resources
   services
   sound_server
+  xscreensaver
 )
 [ $# -gt 0 ] || set -- "${scripts[@]}"
 passed=0

@@ -52,5 +52,6 @@ kill -CONT "$saver"
 frames_advance root
 after=$(awk '{print $14 + $15}' "/proc/$saver/stat")
 at_most "a pause of 75 ticks is not caught up (hundredths of a second of processor time)" 10 $((after - before))
+check "and makes no jump" goes_on_where_it_stopped "$saver" root
 end_saver
 end_window

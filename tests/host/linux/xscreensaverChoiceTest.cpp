@@ -158,6 +158,17 @@ TEST(XscreensaverChoice, AnEntryThatTheUserWroteIsChosenAsItIs) {
   }
 }
 
+TEST(XscreensaverChoice, AnEntryOverTwoLinesIsOne) {
+  // So the settings program writes a long command.
+  const std::string list =
+      "programs:\\\n\ta --root\t\\n\\\n-\t/a/long/path/lunaria\t      \\\n\t\t  --root\t\\n\\\n\tb "
+      "--root\t\\n\\\n\n";
+  const std::string chosen = "mode: one\nselected: 1\n" + list;
+  EXPECT_EQ(chosenIn(chosen).text, chosen);
+  EXPECT_EQ(takeOut(chosen, ChoiceBefore{"blank", "0"}),
+            "mode: blank\nselected: 0\nprograms:\\\n\ta --root\t\\n\\\n\tb --root\t\\n\\\n\n");
+}
+
 TEST(XscreensaverChoice, AnEntryThatCannotServeIsPassedOver) {
   for (const char* entry :
        {"lunaria", "lunaria --rooted", "sh -c 'lunaria --root'", "lunaria.sh --root", "# lunaria --root"}) {
