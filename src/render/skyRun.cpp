@@ -70,6 +70,17 @@ std::string lineOfHash(int frame, const std::vector<std::uint32_t>& pixels) {
                       static_cast<unsigned long long>(hashOfFrame(pixels)));
 }
 
+// Gives one frame, counted from 0, to all who asked for it.
+void handOut(int frame, const std::vector<std::uint32_t>& pixels, const RenderOptions& options,
+             const std::function<void(const std::string&)>& printLine, FrameWriter& writer) {
+  if (options.hashes) {
+    printLine(lineOfHash(frame, pixels));
+  }
+  if (!options.output.empty()) {
+    writer.write(frame, pixels);
+  }
+}
+
 }  // namespace
 
 void runSky(const RenderOptions& options, const std::function<void(const std::string&)>& printLine,
@@ -107,11 +118,6 @@ void runSky(const RenderOptions& options, const std::function<void(const std::st
     world.draw();
     window.flush();
     native.readFrame(window, pixels);
-    if (options.hashes) {
-      printLine(lineOfHash(step - skipped, pixels));
-    }
-    if (!options.output.empty()) {
-      writer.write(step - skipped, pixels);
-    }
+    handOut(step - skipped, pixels, options, printLine, writer);
   }
 }

@@ -97,6 +97,24 @@ class HugeEllipse {
   double m_centreY;
 };
 
+// Calls drawRow(y, outer, inner) for the rows of an ellipse whose sides are at most maxExactSize: the outline
+// of row y goes from `outer` to `inner`.
+template <class DrawRow>
+void drawExactRows(const WideEdges& box, const DrawRow& drawRow) {
+  EllipseOutline outline(box);
+  while (!outline.done()) {
+    const Wide outer = outline.left();
+    const Wide lower = outline.lower();
+    const Wide upper = outline.upper();
+    Wide inner = outer;
+    for (outline.advance(); !outline.done() && outline.lower() == lower; outline.advance()) {
+      inner = outline.left();
+    }
+    drawRow(lower, outer, inner);
+    drawRow(upper, outer, inner);
+  }
+}
+
 }  // namespace
 
 void Surface::fillEllipse(const xplEdges& edges, xplColor color) {
@@ -134,16 +152,5 @@ void Surface::drawEllipse(const WideEdges& box, std::uint32_t pen, std::uint32_t
     }
     return;
   }
-  EllipseOutline outline(box);
-  while (!outline.done()) {
-    const Wide outer = outline.left();
-    const Wide lower = outline.lower();
-    const Wide upper = outline.upper();
-    Wide inner = outer;
-    for (outline.advance(); !outline.done() && outline.lower() == lower; outline.advance()) {
-      inner = outline.left();
-    }
-    drawRow(lower, outer, inner);
-    drawRow(upper, outer, inner);
-  }
+  drawExactRows(box, drawRow);
 }
