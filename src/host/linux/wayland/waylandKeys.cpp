@@ -61,6 +61,7 @@ void WaylandKeys::readLayout() {
   }
   const std::unique_ptr<xkb_context, FreeContext> context(xkb_context_new(XKB_CONTEXT_NO_FLAGS));
   if (context) {
+    xkb_context_set_log_level(context.get(), XKB_LOG_LEVEL_CRITICAL);  // keys are then told by their places
     m_layout.reset(xkb_keymap_new_from_buffer(context.get(), static_cast<const char*>(text), m_size - 1,
                                               XKB_KEYMAP_FORMAT_TEXT_V1, XKB_KEYMAP_COMPILE_NO_FLAGS));
   }

@@ -5,8 +5,8 @@
 #include <cmath>
 
 #include "graphics/linux/heapPixelMemory.h"
-#include "host/linux/hostFailure.h"
 #include "host/linux/wayland/layerRole.h"
+#include "host/linux/wayland/waylandOffers.h"
 #include "host/linux/wayland/windowRole.h"
 #include "support/log.h"
 
@@ -14,41 +14,8 @@ namespace {
 
 constexpr double usualDotsPerInch = 96;
 
-// Throws where the compositor lacks what the saver cannot do without.
-void checkOffers(const WaylandGlobals& globals, const std::string& display) {
-  const char* lack = nullptr;
-  if (globals.compositor() == nullptr) {
-    lack = "surfaces (wl_compositor)";
-  } else if (globals.sharedMemory() == nullptr) {
-    lack = "shared memory (wl_shm)";
-  } else if (globals.desktopShell() == nullptr && globals.layerShell() == nullptr) {
-    lack = "windows (xdg_wm_base) or layers (zwlr_layer_shell_v1)";
-  }
-  if (lack != nullptr) {
-    throw HostFailure("the compositor on Wayland display " + display + " offers no " + lack +
-                      ": use another compositor, or the X display with --x11");
-  }
-}
-
 int logicalOf(int pixels, double scale) {
   return std::max(static_cast<int>(std::lround(pixels / scale)), 1);
-}
-
-OutputLayout layoutOf(const WaylandGlobals& globals, const HostRequest& request, const std::string& display) {
-  const bool canScale = globals.viewporter() != nullptr;
-  const auto outputs = globals.knownOutputs();
-  if (request.mode == HostRequest::Mode::ordinaryWindow) {
-    return {.space = {0, 0, commonScaleOf(outputs, canScale)},
-            .width = request.width,
-            .height = request.height,
-            .monitors = {{0, 0, request.width, request.height}}};
-  }
-  const auto layout = layOutOutputs(outputs, canScale);
-  if (!layout) {
-    throw HostFailure("there is no screen on Wayland display " + display +
-                      ": start the saver when one is connected");
-  }
-  return *layout;
 }
 
 // Marks that the question was answered by destroying it.
@@ -63,11 +30,7 @@ WaylandWindow::WaylandWindow(WaylandConnection& connection, WaylandGlobals& glob
     : m_connection(connection),
       m_globals(globals),
       m_kind(request.mode == HostRequest::Mode::ordinaryWindow ? WindowKind::ordinary : WindowKind::fullRun) {
-  checkOffers(globals, connection.displayName());
-  if (m_kind == WindowKind::ordinary && globals.desktopShell() == nullptr) {
-    throw HostFailure("the compositor on Wayland display " + connection.displayName() +
-                      " offers no windows (xdg_wm_base): run without --window, or use --x11");
-  }
+  checkOffers(globals, m_kind, connection.displayName());
   m_layout = layoutOf(globals, request, connection.displayName());
 }
 

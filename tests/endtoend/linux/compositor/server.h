@@ -73,3 +73,8 @@ void sendFrameCallbacks(Server& server);
 Surface* surfaceOf(wl_resource* resource);
 // For requests of which only the end of the object matters.
 void destroyResource(wl_client* client, wl_resource* resource);
+
+// Offers one more output, given as WIDTHxHEIGHT+X+Y; nothing where it is something else.
+void addOutput(Server& server, const std::string& geometry);
+// Does what a line says, or answers it; "done" where there is no other answer.
+std::string obey(Server& server, const std::string& line);
