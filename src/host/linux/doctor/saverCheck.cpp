@@ -30,7 +30,7 @@ struct IdleProgram {
 constexpr std::array idlePrograms{
     IdleProgram{"swayidle",
                 {"swayidle/config", "sway/config"},
-                "let swayidle start it: swayidle -w timeout 600 lunaria"},
+                "let swayidle start it: swayidle -w timeout 600 'lunaria &'"},
     IdleProgram{"hypridle",
                 {"hypr/hypridle.conf", ""},
                 "in hypridle.conf, a listener: timeout = 600, on-timeout = lunaria"},
@@ -83,7 +83,7 @@ Finding nobodyOn(SystemView& system, const std::string& desktop) {
             "let your session start it at login: xscreensaver --no-splash"};
   }
   return {"Nothing starts a screen saver here.",
-          isWayland ? "install swayidle; at login start: swayidle -w timeout 600 lunaria"
+          isWayland ? "install swayidle; at login start: swayidle -w timeout 600 'lunaria &'"
                     : "sudo apt install xscreensaver && lunaria --install-xscreensaver"};
 }
 

@@ -97,12 +97,14 @@ TEST_F(SaverCheckTest, IdleProgramsStartLunariaByTheirWordsOrTheirSettings) {
   const Finding well{"swayidle runs here and starts Lunaria after 5 minutes.", ""};
   system.running = {{"swayidle", "swayidle -w timeout 300 lunaria"}};
   EXPECT_EQ(look(), well);
+  system.running = {{"swayidle", "swayidle -w timeout 300 lunaria &"}};
+  EXPECT_EQ(look(), well);
   system.running = {{"swayidle", "swayidle -w"}};
   system.contents["/home/luna/.config/swayidle/config"] = "timeout 300 lunaria\n";
   EXPECT_EQ(look(), well);
   system.variables["XDG_CONFIG_HOME"] = "/c";
   EXPECT_TRUE(look().isProblem());
-  system.contents["/c/sway/config"] = "exec swayidle -w timeout 300 lunaria\n";
+  system.contents["/c/sway/config"] = "exec swayidle -w timeout 300 'lunaria &'\n";
   EXPECT_EQ(look(), well);
 }
 
@@ -139,7 +141,7 @@ TEST_F(SaverCheckTest, NobodyStartsScreenSavers) {
                      "let your session start it at login: xscreensaver --no-splash"}));
   system.shown.kind = DisplayView::Kind::wayland;
   EXPECT_EQ(look(), (Finding{"Nothing starts a screen saver here.",
-                             "install swayidle; at login start: swayidle -w timeout 600 lunaria"}));
+                             "install swayidle; at login start: swayidle -w timeout 600 'lunaria &'"}));
 }
 
 }  // namespace
