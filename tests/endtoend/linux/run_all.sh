@@ -28,6 +28,7 @@ scripts=(
   services
   sound_server
   xscreensaver
+  mate
 )
 [ $# -gt 0 ] || set -- "${scripts[@]}"
 passed=0

@@ -2,42 +2,24 @@
 # XScreenSaver itself shows Lunaria: its daemon, its commands and its settings program, after --install-xscreensaver.
 # As the super user it runs them as another user, since the daemon starts nothing for that one, and with the package's
 # files in their places in a name space of its own; as anybody else with the program where it was built.
-if [ "$(id -u)" -eq 0 ] && [ -z "${LUNARIA_OWN_MOUNTS:-}" ] && unshare -m true 2>/dev/null; then
+if [ "$(id -u)" -eq 0 ] && [ -z "${LUNARIA_OWN_MOUNTS:-}" ] && [ -d /usr/libexec/xscreensaver ] &&
+  unshare -m true 2>/dev/null; then
   LUNARIA_OWN_MOUNTS=1 exec unshare -m "$0" "$@"
 fi
 . "$(dirname "$0")/lib.sh"
-source=$(cd "$(dirname "$0")/../../.." && pwd)
+. "$(dirname "$0")/other_user.sh"
 for tool in xscreensaver xscreensaver-command xscreensaver-settings; do
   command -v "$tool" >/dev/null || { echo "skipped: no $tool (install the package xscreensaver)"; exit 0; }
 done
 
-# A user who may not do everything, and the files in places that this user reaches.
-as_user=()
-mkdir "$work/bin" "$work/run"
-install -m 755 "$lunaria" "$work/bin/lunaria"
-chmod 711 "$work"
-chmod 700 "$work/run"
-if [ "$(id -u)" -eq 0 ]; then
-  as_user=(setpriv --reuid=games --regid=games --clear-groups)
-  chown games: "$HOME" "$TMPDIR" "$work/run"
-fi
-user() { "${as_user[@]}" env XDG_RUNTIME_DIR="$work/run" "$@"; }
-# In the background: $! is then the process of the program itself.
-start_as_user() { exec "${as_user[@]}" env XDG_RUNTIME_DIR="$work/run" "$@"; }
-lunaria=$work/bin/lunaria
 entry="$lunaria --root"
 if [ -n "${LUNARIA_OWN_MOUNTS:-}" ]; then
-  # Of the savers only ours can be found then.
-  mkdir -m 755 "$work/savers" "$work/config"
-  cp -a /usr/libexec/xscreensaver/xscreensaver-* "$work/savers"
-  ln -s "$lunaria" "$work/savers/lunaria"
+  mkdir -m 755 "$work/config"
   install -m 644 "$source/packaging/linux/xscreensaver-lunaria.xml" "$work/config/lunaria.xml"
-  mount --bind "$work/savers" /usr/libexec/xscreensaver
+  savers_folder_with_ours
   mount --bind "$work/config" /usr/share/xscreensaver/config
   entry="lunaria --root"
 fi
-quietly() { "$@" >"$work/out"; }
-not() { ! "$@"; }
 # Two savers that show nothing.
 for name in one two; do
   printf '#!/bin/sh\nexec sleep 100\n' >"$work/bin/$name"
@@ -87,11 +69,7 @@ start_daemon() {
   until_true 20 running || { not_ok "the daemon starts"; cat "$work/daemon.log"; exit 1; }
 }
 # The program that the daemon shows, and its process.
-child() { pgrep -P "$1" -x "$2"; }
 shown() { local host; host=$(child "$daemon" xscreensaver-gf) && child "$host" "$1"; }
-arguments() { tr '\0' ' ' <"/proc/$1/cmdline"; }
-variable() { tr '\0' '\n' <"/proc/$1/environ" | sed -n "s/^$2=//p"; }
-ends() { local start; start=$(date +%s%N); until_true 5 gone_or_zombie "$1"; milliseconds=$((($(date +%s%N) - start) / 1000000)); }
 
 start_daemon
 rm -f "$log"
