@@ -3,6 +3,7 @@
 # It is sourced, with `root`, `out`, `program` and `parent_program` set.
 run=$root/tests/wine/run
 screen=800x600
+second_screen=640x480
 log=''
 failures=0
 checks=0
@@ -40,6 +41,8 @@ start_display() {
   local number
   read -r -t 30 -u 5 number || { echo "no display: see $out/xvfb.txt" >&2; exit 2; }
   export DISPLAY=:$number
+  # A second size of the screen, before Wine asks for them; the numbers are VGA's usual ones.
+  xrandr --newmode "$second_screen" 25.18 640 656 752 800 480 490 492 525 && xrandr --addmode screen "$second_screen"
   trap stop_all EXIT
 }
 

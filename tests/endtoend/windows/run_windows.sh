@@ -9,10 +9,11 @@ program=$(realpath "${1:-$root/build/windows/bin/Lunaria.scr}")
 build=$(dirname "$(dirname "$program")")
 parent_program=$build/tests/endtoend/windows/preview_parent.exe
 display_state=$build/tests/endtoend/windows/display_state.exe
+change_resolution=$build/tests/endtoend/windows/change_resolution.exe
 out=$build/endtoend
 . "$here/harness.sh"
 
-for file in "$program" "$parent_program" "$display_state"; do
+for file in "$program" "$parent_program" "$display_state" "$change_resolution"; do
   [ -e "$file" ] || { echo "$file is not built" >&2; exit 2; }
 done
 start_display
@@ -48,6 +49,7 @@ full_run_ended_by key xdotool key a
 . "$here/sound.sh"
 . "$here/usage.sh"
 . "$here/display_off.sh"
+. "$here/display_change.sh"
 
 # A second full run gives way to the first.
 start_saver /s
