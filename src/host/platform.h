@@ -11,7 +11,8 @@
 // - WM_CREATE once, before any other;
 // - WM_ERASEBKGND where the platform wants the background gone; it may come at any time, or never;
 // - WM_TIMER with what xplStartTimer returned in wParam; ticks that come late are merged, never queued up,
-//   except that a window that nobody can see may get those of a second together, and no paints;
+//   except that a window that nobody can see may get those of a second together, and no paints; none come
+//   while the display is off, where the platform tells;
 // - WM_PAINT some time after xplInvalidateClientArea, when no tick waits, and when the window is exposed;
 // - WM_CLOSE and then WM_DESTROY, once each, at the end; WM_DESTROY alone where the window was taken away.
 //
