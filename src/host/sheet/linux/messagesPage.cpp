@@ -6,6 +6,18 @@
 
 #include "host/sheet/messageText.h"
 
+namespace {
+
+// What follows the first line of a label is a hint, which names keys of its own.
+QString markedInFirstLine(const QString& text, Accelerators& accelerators) {
+  const auto end = text.indexOf('\n');
+  const QString hint = end < 0 ? "" : text.mid(end);
+  const QString name = text.left(text.size() - hint.size());
+  return (name.isEmpty() ? name : accelerators.mark(name)) + withoutAccelerator(hint);
+}
+
+}  // namespace
+
 MessagesPage::MessagesPage(const SheetPage& page, Accelerators accelerators, MessageEditor& editor)
     : m_editor(editor), m_frame(new QGroupBox), m_entry(new QVBoxLayout), m_buttons(new QHBoxLayout) {
   auto* layout = new QVBoxLayout(this);
@@ -28,7 +40,7 @@ void MessagesPage::add(const SheetControl& control, Accelerators& accelerators) 
       addButton(control.id, accelerators.mark(text));
       break;
     case ControlKind::label:
-      addLabel(control.id, text.isEmpty() ? text : accelerators.mark(text));
+      addLabel(control.id, markedInFirstLine(text, accelerators));
       break;
     default:
       addEdit(control);

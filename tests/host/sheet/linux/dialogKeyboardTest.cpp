@@ -1,6 +1,7 @@
 // Tests how the keyboard reaches what is on the dialog.
 #include <QLabel>
 #include <QTabBar>
+#include <algorithm>
 #include <set>
 
 #include <gmock/gmock.h>
@@ -50,6 +51,16 @@ TEST_F(DialogTest, NoTwoAcceleratorsOfAPageMeetAndNoControlIsWithout) {
       }
     }
   }
+}
+
+TEST_F(DialogTest, TheHintOfTheMessagesLabelIsWithoutAccelerator) {
+  show(messagesPage);
+  const auto labels = page()->findChildren<QLabel*>();
+  const auto label = std::ranges::find(labels, &message(), &QLabel::buddy);
+  ASSERT_NE(label, labels.end());
+  EXPECT_EQ((*label)->text(), "M&essage:\n(Press CTRL + ENTER for a new line)");
+  press(*dialog, Qt::Key_E, Qt::AltModifier);
+  EXPECT_TRUE(message().hasFocus());
 }
 
 TEST_F(DialogTest, WhoConfirmsAtOnceGetsTheControlThatIsStillShownPressed) {
