@@ -23,6 +23,11 @@ namespace {
 // takes from the blank at its end.
 constexpr char aboutLineBreak[] = " \n";
 
+// A path in two lines: it would be broken within the name of the file.
+std::string inTwoLines(std::string path) {
+  return path.insert(path.rfind('\\') + 1, "\n");
+}
+
 SettingsSheet& sheetOf(HWND dialog) {
   return *reinterpret_cast<SettingsSheet*>(GetWindowLongPtrA(dialog, DWLP_USER));
 }
@@ -49,7 +54,8 @@ void initialize(HWND dialog, int page, SettingsSheet& sheet) {
   if (page == messagesPage) {
     initializeMessagesPage(dialog, sheet.messages());
   } else if (page == aboutPage) {
-    SetDlgItemTextA(dialog, controlIds::about, aboutText(sheet.settingsFile(), aboutLineBreak).c_str());
+    SetDlgItemTextA(dialog, controlIds::about,
+                    aboutText(inTwoLines(sheet.settingsFile()), aboutLineBreak).c_str());
   }
 }
 

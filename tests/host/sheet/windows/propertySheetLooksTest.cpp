@@ -154,7 +154,9 @@ TEST_F(PropertySheetTest, PagesAreWithoutVisualStyles) {
 TEST_F(PropertySheetTest, AboutShowsItsText) {
   show([](SheetDriver& driver) {
     driver.turnTo(aboutPage);
-    EXPECT_EQ(driver.text(controlIds::about), aboutText(xplUserSettings().filename(), " \n"));
+    std::string path = xplUserSettings().filename();
+    path.insert(path.rfind('\\') + 1, "\n");
+    EXPECT_EQ(driver.text(controlIds::about), aboutText(path, " \n"));
     driver.cancel();
   });
 }
