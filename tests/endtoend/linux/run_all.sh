@@ -11,6 +11,7 @@ done
 scripts=(
   commandline
   configure
+  sheet_screenshots
   fullrun
   startup
   preview
