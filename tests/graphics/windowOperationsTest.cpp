@@ -1,29 +1,9 @@
-// What the window's operations do at their edges, on every platform.
-#include "graphics/amplify.h"
-#include "graphics/canvas.h"
+// What the window's operations draw, and where they end, on every platform.
+#include <utility>
+#include <vector>
+
 #include "graphics/image.h"
-#include "harness/privateFolders.h"
-
-namespace {
-
-constexpr xplColor white(255, 255, 255);
-constexpr xplColor red(255, 0, 0);
-
-class WindowOperations : public PrivateFolders {
- protected:
-  Canvas canvas{40, 30};
-  xplWindow& window = canvas.window();
-
-  int countPixels(xplColor color) {
-    int count = 0;
-    for (int y = 0; y < window.getHeight(); ++y) {
-      for (int x = 0; x < window.getWidth(); ++x) {
-        count += window.getPixel(x, y) == color ? 1 : 0;
-      }
-    }
-    return count;
-  }
-};
+#include "windowOperationsFixture.h"
 
 TEST_F(WindowOperations, PixelsOutsideAreBlackToReadAndCannotBeWritten) {
   for (const auto& [x, y] :
@@ -126,69 +106,6 @@ TEST_F(WindowOperations, MeasuringNeedsNeitherOutArgument) {
   EXPECT_GT(height, 10);
 }
 
-TEST_F(WindowOperations, NothingIsSeenBeforeTheFlush) {
-  window.fillRect(xplRect<int>(0, 0, 40, 30), red);
-  EXPECT_EQ(xplColor(0, 0, 0), canvas.native().shownPixel(5, 5));
-  window.flush();
-  EXPECT_EQ(red, canvas.native().shownPixel(5, 5));
-  EXPECT_EQ(red, canvas.native().shownPixel(39, 29));
-}
-
-TEST_F(WindowOperations, DrawingStraightToTheWindowLeavesTheBackBufferAlone) {
-  window.flush();
-  window.setUseBackBuffer(false);
-  window.fillRect(xplRect<int>(0, 0, 20, 30), red);
-  EXPECT_EQ(red, canvas.native().shownPixel(19, 5)) << "seen at once";
-  EXPECT_EQ(white, canvas.native().shownPixel(20, 5));
-  window.flush();
-  EXPECT_EQ(red, canvas.native().shownPixel(0, 0)) << "a flush does nothing meanwhile";
-  window.setUseBackBuffer(true);
-  EXPECT_EQ(white, window.getPixel(0, 0));
-  window.flush();
-  EXPECT_EQ(white, canvas.native().shownPixel(0, 0));
-}
-
-TEST_F(WindowOperations, WithoutANativeWindowDoNothing) {
-  xplWindow none(nullptr);
-  EXPECT_EQ(0, none.getWidth());
-  EXPECT_EQ(0, none.getHeight());
-  none.clear();
-  none.fillRect(xplRect<int>(0, 0, 10, 10), red);
-  none.drawLine(0, 0, 5, 5, 1, red);
-  none.setPixel(0, 0, red);
-  none.flush();
-  none.setUseBackBuffer(false);
-  EXPECT_EQ(xplColor(0, 0, 0), none.getPixel(0, 0));
-}
-
-TEST_F(WindowOperations, KnowTheirPlaceOnTheScreen) {
-  TestWindow native(50, 20, 30, 40);
-  xplWindow placed(native.handle());
-  EXPECT_EQ(30, placed.getLeft());
-  EXPECT_EQ(40, placed.getTop());
-  EXPECT_EQ(80, placed.getRight());
-  EXPECT_EQ(60, placed.getBottom());
-}
-
-TEST_F(WindowOperations, KeptFillingTheWindowStartsAtItsPlaceOnTheScreen) {
-  TestWindow native(50, 40, 30, 10);
-  xplWindow placed(native.handle());
-  placed.fillRect(xplRect<int>(0, 0, 50, 40), white);
-  placed.fillWindow(red);
-  for (int y = 0; y < 40; ++y) {
-    for (int x = 0; x < 50; ++x) {
-      ASSERT_EQ(x >= 30 && y >= 10 ? red : white, placed.getPixel(x, y)) << x << ", " << y;
-    }
-  }
-}
-
-TEST_F(WindowOperations, StartFromWhatTheWindowShows) {
-  window.fillRect(xplRect<int>(0, 0, 40, 30), red);
-  window.flush();
-  xplWindow second(canvas.native().handle());
-  EXPECT_EQ(red, second.getPixel(7, 7));
-}
-
 TEST_F(WindowOperations, TransparentPixelsOfAnImageLeaveTheWindowAlone) {
   xplImage image;
   image.initWithSizeAndColor(3, 3, {7, 7, 7});
@@ -198,17 +115,3 @@ TEST_F(WindowOperations, TransparentPixelsOfAnImageLeaveTheWindowAlone) {
   EXPECT_EQ(1, countPixels(red));
   EXPECT_EQ(40 * 30 - 1, countPixels(white));
 }
-
-TEST(Amplify, TruncatesAndStopsAt255) {
-  EXPECT_EQ(xplColor(255, 200, 20), amplified({200, 100, 10}, 2.0F, 2.0F, 2.0F));
-  EXPECT_EQ(xplColor(99, 33, 0), amplified({199, 100, 10}, 0.5F, 0.333F, 0.0F));
-}
-
-TEST(Amplify, KeptANegativeProductWraps) {
-  EXPECT_EQ(246, amplifiedChannel(10, -1.0F));
-  EXPECT_EQ(0, amplifiedChannel(255, -256.0F / 255.0F * 1.0F));
-  EXPECT_EQ(255, amplifiedChannel(10, 1.0e30F));
-  EXPECT_EQ(0, amplifiedChannel(10, -1.0e30F));
-}
-
-}  // namespace
