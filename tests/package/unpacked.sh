@@ -63,6 +63,15 @@ try_in_scratch_root() {
   await_saver 10
   same "which end" 0 "$code"
 
+  same "it knows nothing of XScreenSaver yet" "" "$(find "$HOME" -maxdepth 1 -name .xscreensaver)"
+  check "it makes itself XScreenSaver's saver" tells "$root/usr/bin/lunaria" --install-xscreensaver
+  check "under the name of the installed program" grep -qF "$root/usr/bin/lunaria --root" "$HOME/.xscreensaver"
+  check "it takes itself out again" tells "$root/usr/bin/lunaria" --uninstall-xscreensaver
+  same "without a trace of that" "" "$(find "$HOME" -name '*xscreensaver*')"
+  tells "$root/usr/bin/lunaria" --install-xscreensaver
+  cp "$HOME/.xscreensaver" "$work/preferences"
+
   check "they can be removed" in_root --purge lunaria lunaria-configure
   same "without a trace" "" "$(files_in_root)$(cd "$root" && find . -path ./var -prune -o -type d ! -name . -print)"
+  check "and without a change to the user's files" cmp "$work/preferences" "$HOME/.xscreensaver"
 }

@@ -16,7 +16,7 @@
 
 namespace {
 
-constexpr std::size_t largestSize = std::size_t{1024} * 1024;  // bytes; XScreenSaver writes about ten thousand
+constexpr std::size_t largestSize = std::size_t{1024} * 1024;  // bytes; XScreenSaver writes ten thousand
 
 std::string messageOf(int errorNumber) {
   return std::generic_category().message(errorNumber);
