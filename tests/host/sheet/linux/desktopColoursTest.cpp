@@ -4,12 +4,11 @@
 #include <QDBusVirtualObject>
 #include <QProcess>
 #include <QThread>
-#include <algorithm>
-#include <cmath>
 #include <memory>
 
 #include <gtest/gtest.h>
 
+#include "host/sheet/linux/contrast.h"
 #include "host/sheet/linux/desktopColours.h"
 
 namespace {
@@ -94,21 +93,7 @@ TEST_F(DesktopColours, WithoutABusItIsLight) {
   EXPECT_FALSE(isDark());
 }
 
-// The contrast of two colours, in [1, 21], as the guidelines for web content define it.
-double contrast(const QColor& one, const QColor& other) {
-  const auto luminance = [](const QColor& colour) {
-    const auto linear = [](double part) {
-      return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
-           0.0722 * linear(colour.blueF());
-  };
-  const auto [low, high] = std::minmax({luminance(one), luminance(other)});
-  return (high + 0.05) / (low + 0.05);
-}
-
 TEST(DarkPalette, CanBeRead) {
-  constexpr double enough = 4.5;
   const QPalette palette = darkPalette();
   for (const auto& [text, ground] : std::vector<std::pair<QPalette::ColorRole, QPalette::ColorRole>>{
            {QPalette::WindowText, QPalette::Window},
@@ -118,7 +103,7 @@ TEST(DarkPalette, CanBeRead) {
            {QPalette::Link, QPalette::Window},
            {QPalette::LinkVisited, QPalette::Window},
            {QPalette::HighlightedText, QPalette::Highlight}}) {
-    EXPECT_GE(contrast(palette.color(text), palette.color(ground)), enough) << text;
+    EXPECT_GE(contrast(palette.color(text), palette.color(ground)), readableContrast) << text;
   }
   EXPECT_LT(palette.color(QPalette::Window).lightness(), 64);
 }
