@@ -103,6 +103,13 @@ void noctisScreensaver::animateOneFrame(float seconds) {
   }
 }
 
+void noctisScreensaver::monitorsChanged() {
+  xplScreenSaverAbstract::monitorsChanged();
+  if (m_world) {
+    m_world->followMonitors();
+  }
+}
+
 void noctisScreensaver::drawOneFrame() {
   if (startupEffectPlays()) {
     m_startupEffect->draw();

@@ -28,6 +28,7 @@ class noctisScreensaver : public xplScreenSaverAbstract {
   void setContainerFolder(const std::string& path) override;
   // The world stands still while the startup effect plays.
   void animateOneFrame(float seconds) override;
+  void monitorsChanged() override;
   // Draws the startup effect while it plays, the world afterwards.
   void drawOneFrame() override;
   // The back buffer covers the whole window at every paint: there is nothing to erase.

@@ -14,6 +14,7 @@
 //   except that a window that nobody can see may get those of a second together, and no paints; none come
 //   while the display is off, where the platform tells;
 // - WM_PAINT some time after xplInvalidateClientArea, when no tick waits, and when the window is exposed;
+// - WM_DISPLAYCHANGE when the answer of xplEnumerateMonitors has changed;
 // - WM_CLOSE and then WM_DESTROY, once each, at the end; WM_DESTROY alone where the window was taken away.
 //
 // The saver's object lives from WM_CREATE to WM_DESTROY; a framework that is told to stop sends both endings,

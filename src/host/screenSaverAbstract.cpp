@@ -28,6 +28,7 @@ void xplScreenSaverAbstract::initWithWindowHandle(xplWindowHandle windowHandle, 
   bindWindow(windowHandle);
   logInfo().addf("TopLeft:%i,%i screen width:%i, height:%i", m_window->getLeft(), m_window->getTop(),
                  getWidth(), getHeight());
+  m_windowHandle = windowHandle;
   listMonitors(windowHandle);
   logInfo().addf("Screensaver container folder:%s", m_containerFolder.c_str());
   m_ownsWindow = true;
@@ -53,6 +54,16 @@ void xplScreenSaverAbstract::listMonitors(xplWindowHandle windowHandle) {
     const auto& monitor = m_MonitorList[static_cast<std::size_t>(i)];
     logInfo().addf("Monitor %i: Left %i, top %i, right %i, bottom %i", i, monitor.left, monitor.top,
                    monitor.getRight(), monitor.getBottom());
+  }
+}
+
+void xplScreenSaverAbstract::monitorsChanged() {
+  logInfo().add("The monitors have changed");
+  std::vector<xplRect<int>> before;
+  m_MonitorList.swap(before);
+  listMonitors(m_windowHandle);
+  if (m_MonitorList.empty()) {
+    m_MonitorList.swap(before);
   }
 }
 

@@ -20,6 +20,8 @@ class xplScreenSaverAbstract : public xplScreenSaverInterface {
   void initWithWindowHandle(xplWindowHandle windowHandle, std::int32_t monitorId) override;
   void setContainerFolder(const std::string& path) override { m_containerFolder = path; }
   void flushOneFrame() override;
+  // Lists the monitors anew; the list stays as it is where the platform cannot tell them.
+  void monitorsChanged() override;
   bool getPreserveDesktopContents() override { return mPreserveDeskopContents; }
   void setPreserveDesktopContents(bool preserve) override { mPreserveDeskopContents = preserve; }
   void shutDown() override {}
@@ -45,7 +47,8 @@ class xplScreenSaverAbstract : public xplScreenSaverInterface {
   void listMonitors(xplWindowHandle windowHandle);
 
   std::unique_ptr<xplWindow> m_window;
-  bool m_ownsWindow = false;  // set when an initialisation has come to its end
+  xplWindowHandle m_windowHandle = nullptr;  // of the last initialisation
+  bool m_ownsWindow = false;                 // set when an initialisation has come to its end
 
  protected:
   // The log names it so, too: the spelling stays.

@@ -31,6 +31,8 @@ class xplScreenSaverInterface {
   // True while what the window showed before must stay visible.
   virtual bool getPreserveDesktopContents() = 0;
   virtual void setPreserveDesktopContents(bool preserve) = 0;
+  // Monitors came, went or changed, while the window keeps its size for the saver.
+  virtual void monitorsChanged() {}
   // Ends everything that it shows. Ticks and draws after it do nothing.
   virtual void shutDown() = 0;
   virtual bool hasConfigureSheet() = 0;

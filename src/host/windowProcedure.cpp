@@ -171,6 +171,11 @@ extern "C" LRESULT XPL_CALLBACK ScreenSaverProc(xplWindowHandle window, UINT mes
     case WM_PAINT:
       paint(window);
       break;
+    case WM_DISPLAYCHANGE:
+      if (screensaverPtr) {
+        screensaverPtr->monitorsChanged();
+      }
+      break;
     case WM_CLOSE:
       close(window);
       break;

@@ -46,6 +46,9 @@ class TnoctisWorld {
   void update(float elapsedSec);
   // Draws everything that is shown on the window's current target, back to front.
   void draw();
+  // The list of monitors that it was made with has changed: the moon moves over to the main one, or to the
+  // first of which a part lies in the window. Where there is none, and in the preview, all stays.
+  void followMonitors();
   // Lets the stars spell the next message, and its bottom line scroll once they have arrived. Nothing without
   // messages.
   void applyNextMessage();

@@ -43,6 +43,25 @@ void TnoctisWorld::findMainMonitorInWindow() {
   m_mainMonitorInWindow = intersection(monitor, m_windowRect);
 }
 
+void TnoctisWorld::followMonitors() {
+  if (m_window == nullptr || m_monitorId == previewMonitorId) {
+    return;
+  }
+  const xplRect<int> before = m_mainMonitorRect;
+  for (const xplRect<int>& monitor : *m_monitorList) {
+    m_mainMonitorRect = monitor;
+    findMainMonitorInWindow();
+    if (isMoonKeptOnMainMonitor()) {
+      const xplRect<int>& area = m_mainMonitorInWindow;
+      m_moon.x = clampedInto(m_moon.x, m_moon.width, area.left, area.getRight());
+      m_moon.y = clampedInto(m_moon.y, m_moon.height, area.top, area.getBottom());
+      return;
+    }
+  }
+  m_mainMonitorRect = before;
+  findMainMonitorInWindow();
+}
+
 // The preview is a small window somewhere on a monitor, and so may be a window that another program gave.
 bool TnoctisWorld::isMoonKeptOnMainMonitor() const {
   return m_monitorId != previewMonitorId && m_mainMonitorInWindow.width > 0 &&

@@ -46,6 +46,7 @@ class RecordingSaver : public xplScreenSaverAbstract {
     run(m_record.duringFlush);
   }
   void eraseBackground() override { note("erase"); }
+  void monitorsChanged() override { note("monitors"); }
   void shutDown() override { note("shutDown"); }
   bool hasConfigureSheet() override { return m_hasSheet; }
 

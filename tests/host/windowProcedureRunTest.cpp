@@ -103,6 +103,12 @@ TEST_F(WindowProcedureRun, AfterDestroyTicksAndPaintsReachNobody) {
   EXPECT_THAT(record.calls, ElementsAre("default"));
 }
 
+TEST_F(WindowProcedureRun, MonitorsThatChangeAreToldToTheSaverAndPassedOn) {
+  EXPECT_EQ(send(WM_DISPLAYCHANGE, 32, 0x00500064), defaultAnswer);
+  EXPECT_THAT(record.calls, ElementsAre("monitors", "default"));
+  EXPECT_THAT(passed, ElementsAre(Passed{window.handle(), WM_DISPLAYCHANGE, 32, 0x00500064}));
+}
+
 TEST_F(WindowProcedureRun, UnhandledMessagesArePassedOnAsTheyAre) {
   EXPECT_EQ(send(WM_KEYDOWN, 27, 65537), defaultAnswer);
   EXPECT_EQ(send(WM_MOUSEMOVE, 0, 0x00500064), defaultAnswer);
@@ -120,6 +126,7 @@ TEST_F(WindowProcedureTest, DestroyBeforeAnyCreateLogsBothLinesAndDeletesNothing
 TEST_F(WindowProcedureTest, AllOtherMessagesBeforeAnyCreateAreBorne) {
   EXPECT_EQ(send(WM_TIMER, 1), 0);
   EXPECT_EQ(send(WM_PAINT), defaultAnswer);
+  EXPECT_EQ(send(WM_DISPLAYCHANGE), defaultAnswer);
   EXPECT_EQ(send(WM_ERASEBKGND), 1);
   EXPECT_EQ(send(WM_CLOSE), defaultAnswer);
 }

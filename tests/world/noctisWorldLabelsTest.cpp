@@ -72,6 +72,66 @@ TEST_F(WorldLabels, TurnTheMoonBackAtTheMonitorsEdge) {
   EXPECT_LT(world->moon().getRight(), 500.5);
 }
 
+TEST_F(WorldLabels, TheMoonFollowsTheMainMonitorAndBouncesInItFromThenOn) {
+  useOneMonitor(320, 0, 320, 480);
+  const auto world = initializedWorld();
+  EXPECT_FLOAT_EQ(448.0F, world->moon().x);
+  useOneMonitor(0, 100, 320, 240);
+  world->followMonitors();
+  EXPECT_FLOAT_EQ(270.0F, world->moon().x);
+  EXPECT_FLOAT_EQ(100.0F, world->moon().y);
+  EXPECT_EQ(320, world->mainMonitorRect().width);
+  for (int i = 0; i < 40; ++i) {
+    world->update(1.0F);
+  }
+  EXPECT_FLOAT_EQ(-0.1F, world->moon().speedX);
+  EXPECT_LT(world->moon().getRight(), 320.5);
+}
+
+TEST_F(WorldLabels, TheMoonStaysWhereItsPlaceIsStillOnTheMainMonitor) {
+  useOneMonitor(0, 0, 640, 480);
+  const auto world = initializedWorld();
+  useOneMonitor(300, 0, 340, 400);
+  world->followMonitors();
+  EXPECT_FLOAT_EQ(448.0F, world->moon().x);
+  EXPECT_FLOAT_EQ(57.6F, world->moon().y);
+}
+
+TEST_F(WorldLabels, TheMoonFollowsTheFirstMonitorThatTheWindowReaches) {
+  useOneMonitor(320, 0, 320, 480);
+  const auto world = initializedWorld();
+  monitors = {xplRect<int>(0, 640, 320, 240), xplRect<int>(0, 0, 320, 240)};
+  world->followMonitors();
+  EXPECT_FLOAT_EQ(270.0F, world->moon().x);
+  EXPECT_EQ(0, world->mainMonitorRect().left);
+}
+
+TEST_F(WorldLabels, TheMoonStaysWhereTheWindowReachesNoMonitor) {
+  useOneMonitor(320, 0, 320, 480);
+  const auto world = initializedWorld();
+  for (const std::vector<xplRect<int>>& list :
+       {std::vector<xplRect<int>>{}, std::vector<xplRect<int>>{xplRect<int>(0, 640, 320, 240)}}) {
+    monitors = list;
+    world->followMonitors();
+    EXPECT_FLOAT_EQ(448.0F, world->moon().x);
+    EXPECT_EQ(320, world->mainMonitorRect().left);
+  }
+}
+
+TEST_F(WorldLabels, InThePreviewTheMoonFollowsNoMonitor) {
+  useOneMonitor(0, 0, 1920, 1080);
+  const auto world = initializedWorld(152, 112, TnoctisWorld::previewMonitorId);
+  useOneMonitor(0, 0, 60, 60);
+  world->followMonitors();
+  EXPECT_FLOAT_EQ(102.0F, world->moon().x);
+}
+
+TEST_F(WorldLabels, WithoutAWindowNoMonitorIsFollowed) {
+  TnoctisWorld world(nullptr, 0, monitors, "");
+  world.followMonitors();
+  EXPECT_EQ(0, world.mainMonitorRect().width);
+}
+
 TEST_F(WorldLabels, InThePreviewShowASmallMoonInsideTheWindow) {
   xplUserSettings().set("moonSize", 300);
   useOneMonitor(0, 0, 1920, 1080);

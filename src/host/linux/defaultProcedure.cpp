@@ -17,23 +17,23 @@ int highCoordinateOf(LPARAM lParam) {
   return static_cast<std::int16_t>((lParam >> 16) & 0xFFFF);
 }
 
-bool pointerHasLeft(MessagePump::PointerStart& start, LPARAM lParam) {
+bool pointerHasLeft(MessagePump::PointerStart& start, WPARAM wParam, LPARAM lParam) {
   const int x = lowCoordinateOf(lParam);
   const int y = highCoordinateOf(lParam);
-  if (!start.isKnown) {
+  if (!start.isKnown || wParam == pointerWasPut) {
     start = {true, x, y};
   }
   return std::abs(x - start.x) > pointerTolerance || std::abs(y - start.y) > pointerTolerance;
 }
 
-bool endsFullRun(MessagePump& pump, UINT message, LPARAM lParam) {
+bool endsFullRun(MessagePump& pump, UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
     case WM_KEYDOWN:
     case WM_LBUTTONDOWN:
     case WM_MOUSEWHEEL:
       return true;
     case WM_MOUSEMOVE:
-      return pointerHasLeft(pump.pointerStart, lParam);
+      return pointerHasLeft(pump.pointerStart, wParam, lParam);
     default:
       return false;
   }
@@ -42,7 +42,7 @@ bool endsFullRun(MessagePump& pump, UINT message, LPARAM lParam) {
 bool endsRun(MessagePump& pump, UINT message, WPARAM wParam, LPARAM lParam) {
   switch (pump.kind()) {
     case WindowKind::fullRun:
-      return endsFullRun(pump, message, lParam);
+      return endsFullRun(pump, message, wParam, lParam);
     case WindowKind::ordinary:
       return message == WM_KEYDOWN && (wParam == keyEscape || wParam == keyQ);
     case WindowKind::foreign:

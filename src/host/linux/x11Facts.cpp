@@ -73,22 +73,6 @@ std::optional<X11Facts::ForeignWindow> askAboutWindow(X11Connection& connection,
   return window;
 }
 
-// The monitors that a reply lists, the primary one first.
-std::vector<xplEdges> monitorsOf(const xcb_randr_get_monitors_reply_t* reply) {
-  std::vector<xplEdges> monitors;
-  if (reply == nullptr) {
-    return monitors;
-  }
-  for (auto i = xcb_randr_get_monitors_monitors_iterator(reply); i.rem > 0; xcb_randr_monitor_info_next(&i)) {
-    const auto& monitor = *i.data;
-    if (monitor.width > 0 && monitor.height > 0) {
-      const xplEdges edges{monitor.x, monitor.y, monitor.x + monitor.width, monitor.y + monitor.height};
-      monitors.insert(monitor.primary != 0 ? monitors.begin() : monitors.end(), edges);
-    }
-  }
-  return monitors;
-}
-
 std::optional<xcb_dpms_get_version_cookie_t> askPower(xcb_connection_t* c) {
   const auto* power = xcb_get_extension_data(c, &xcb_dpms_id);
   if (power == nullptr || power->present == 0) {
@@ -131,6 +115,7 @@ void askExtensions(X11Connection& connection, xcb_window_t root, X11Facts& facts
   if (hasRandr) {
     connection.await<xcb_randr_query_version_reply_t>(randrVersion);
     // A display older than this question answers with an error: no monitors.
+    facts.firstMonitorEvent = randr->first_event;
     facts.monitors = monitorsOf(connection.await<xcb_randr_get_monitors_reply_t>(monitors).get());
   }
   facts.power = hearPower(connection, powerAsked);
@@ -188,4 +173,19 @@ std::optional<int> dotsPerInchOf(const std::string& resources) {
     return std::nullopt;
   }
   return static_cast<int>(std::lround(value));
+}
+
+std::vector<xplEdges> monitorsOf(const xcb_randr_get_monitors_reply_t* reply) {
+  std::vector<xplEdges> monitors;
+  if (reply == nullptr) {
+    return monitors;
+  }
+  for (auto i = xcb_randr_get_monitors_monitors_iterator(reply); i.rem > 0; xcb_randr_monitor_info_next(&i)) {
+    const auto& monitor = *i.data;
+    if (monitor.width > 0 && monitor.height > 0) {
+      const xplEdges edges{monitor.x, monitor.y, monitor.x + monitor.width, monitor.y + monitor.height};
+      monitors.insert(monitor.primary != 0 ? monitors.begin() : monitors.end(), edges);
+    }
+  }
+  return monitors;
 }

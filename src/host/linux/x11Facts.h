@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include <xcb/randr.h>
+
 #include "graphics/linux/surface.h"
 #include "host/linux/x11Connection.h"
 
@@ -23,6 +25,8 @@ struct X11Facts {
   int screenWidth = 0;  // pixels
   int screenHeight = 0;
   std::vector<xplEdges> monitors;  // screen coordinates, the main one first; never empty
+  // The first of the events by which the display tells of monitors; nothing where it does not.
+  std::optional<std::uint8_t> firstMonitorEvent;
   int dotsPerInch = 96;
   std::optional<ForeignWindow> window;  // nothing where there is no such window
   int pointerX = 0;                     // screen coordinates
@@ -40,6 +44,9 @@ struct X11Facts {
   // window: the window of another program that is asked about, 0 for none.
   static X11Facts collect(X11Connection& connection, xcb_window_t window);
 };
+
+// The monitors that a reply lists, the primary one first; none where the reply is null.
+std::vector<xplEdges> monitorsOf(const xcb_randr_get_monitors_reply_t* reply);
 
 // Dots per inch as a resource text ("Xft.dpi:\t144") gives them, between 24 and 960; nothing where it does
 // not.

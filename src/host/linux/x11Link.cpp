@@ -1,6 +1,8 @@
 // Implements the translation of X events and errors into window messages.
 #include "host/linux/x11Link.h"
 
+#include <utility>
+
 #include "support/log.h"
 
 namespace {
@@ -21,8 +23,7 @@ X11Link::X11Link(X11Connection& connection, StopSignals& signals, X11Window& win
       m_signals(signals),
       m_window(window),
       m_pump(pump),
-      m_power(connection, pump, facts.power),
-      m_sight(window.windowId()),
+      m_sight(connection, pump, window.windowId(), facts.power),
       m_windowWidth(window.rectangle().right),
       m_windowHeight(window.rectangle().bottom) {
   // Reading the signals is collect()'s; the watch only wakes the pump.
@@ -32,6 +33,7 @@ X11Link::X11Link(X11Connection& connection, StopSignals& signals, X11Window& win
     case WindowKind::fullRun:
       m_grab = std::make_unique<InputGrab>(connection, window.windowId(), pump);
       m_grab->start();
+      m_monitors = std::make_unique<MonitorWatch>(connection, facts);
       break;
     case WindowKind::ordinary:
       m_keys = std::make_unique<X11Keys>(connection);
@@ -59,8 +61,8 @@ void X11Link::collect() {
   if (m_grab) {
     m_grab->collect();
   }
-  m_power.collect();
-  noteSight();
+  m_sight.collect();
+  noteChanges();
   if (!m_connection.isUsable()) {
     m_window.forget();
     m_pump.windowIsGone("the display " + m_connection.displayName() +
@@ -77,22 +79,18 @@ bool X11Link::mayPaint() {
 }
 
 bool X11Link::isSeen() const {
-  return m_power.isOn() && m_sight.isSeen();
+  return m_sight.isSeen();
 }
 
-void X11Link::noteSight() {
-  if (m_wasSeen == isSeen()) {
-    return;
-  }
-  m_wasSeen = !m_wasSeen;
-  if (m_wasSeen) {
-    logInfo().add("The window can be seen again: it is drawn on");
+void X11Link::noteChanges() {
+  if (m_sight.takeChange() == X11Sight::Change::seen) {
     // The display may have let go of what it showed.
     m_window.loseContent();
     m_pump.invalidate();
-  } else {
-    logInfo().add(m_power.isOn() ? "The window is covered: drawing waits"
-                                 : "The display is switched off: drawing waits");
+  }
+  if (auto monitors = m_monitors ? m_monitors->takeChange() : std::nullopt) {
+    m_window.takeMonitors(std::move(*monitors));
+    m_pump.post(WM_DISPLAYCHANGE);
   }
 }
 
@@ -101,9 +99,10 @@ void X11Link::flush() {
 }
 
 void X11Link::translate(const xcb_generic_event_t& event) {
-  if (m_window.presenter().hear(event) || m_power.hear(event) || m_sight.hear(event)) {
+  if (m_window.presenter().hear(event) || m_sight.hear(event)) {
     return;
   }
+  m_pointerIsPut = (m_monitors && m_monitors->hear(event)) || m_pointerIsPut;
   switch (event.response_type & ~sentMark) {
     case 0:
       return hearError(as<xcb_generic_error_t>(event));
@@ -184,7 +183,8 @@ void X11Link::hearClientMessage(const xcb_client_message_event_t& event) {
 }
 
 void X11Link::postPointer(int x, int y) {
-  m_pump.post(WM_MOUSEMOVE, 0, static_cast<LPARAM>((x & 0xFFFF) | (y & 0xFFFF) << 16));
+  const WPARAM how = std::exchange(m_pointerIsPut, false) ? pointerWasPut : 0;
+  m_pump.post(WM_MOUSEMOVE, how, static_cast<LPARAM>((x & 0xFFFF) | (y & 0xFFFF) << 16));
 }
 
 void X11Link::postButton(xcb_button_t button) {

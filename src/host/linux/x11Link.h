@@ -3,12 +3,12 @@
 
 #include <memory>
 
-#include "host/linux/displayPower.h"
 #include "host/linux/inputGrab.h"
 #include "host/linux/messagePump.h"
+#include "host/linux/monitorWatch.h"
 #include "host/linux/stopSignals.h"
-#include "host/linux/windowSight.h"
 #include "host/linux/x11Keys.h"
+#include "host/linux/x11Sight.h"
 #include "host/linux/x11Window.h"
 
 class X11Link : public DisplayLink {
@@ -38,19 +38,19 @@ class X11Link : public DisplayLink {
   void postKey(xcb_keycode_t key);
   void postButton(xcb_button_t button);
   void eraseOnce();
-  // Tells the log, and draws again, where the window has become seen or unseen.
-  void noteSight();
+  // Draws again where the window can be seen again, and lets the saver follow the monitors.
+  void noteChanges();
 
   X11Connection& m_connection;
   StopSignals& m_signals;
   X11Window& m_window;
   MessagePump& m_pump;
-  std::unique_ptr<InputGrab> m_grab;  // the full run's
-  std::unique_ptr<X11Keys> m_keys;    // the ordinary window's
-  DisplayPower m_power;
-  WindowSight m_sight;
-  bool m_wasSeen = true;
+  std::unique_ptr<InputGrab> m_grab;         // the full run's
+  std::unique_ptr<X11Keys> m_keys;           // the ordinary window's
+  std::unique_ptr<MonitorWatch> m_monitors;  // the full run's
+  X11Sight m_sight;
   bool m_isErased = false;
+  bool m_pointerIsPut = false;  // monitors have changed since its last movement
   bool m_isStopping = false;
   int m_windowWidth;  // as the display told last
   int m_windowHeight;

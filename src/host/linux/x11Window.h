@@ -48,6 +48,8 @@ class X11Window : public xpliNativeWindow {
   xcb_atom_t closeMessage() const { return m_description.closeMessage; }
   FramePresenter& presenter() { return m_presenter; }
 
+  // The monitors are these from now on: screen coordinates, the main one first, never empty.
+  void takeMonitors(std::vector<xplEdges> monitors) { m_description.monitors = std::move(monitors); }
   // Tells that the display no longer has what was presented.
   void loseContent() { m_isContentLost = true; }
   // Puts a window of our own on the screen.

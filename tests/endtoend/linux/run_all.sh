@@ -17,6 +17,7 @@ scripts=(
   preview
   signals
   displays
+  monitors
   environments
   power
   stats

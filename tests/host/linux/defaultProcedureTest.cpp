@@ -89,6 +89,15 @@ TEST_F(DefaultProcedureTest, APointerThatLeavesItsPlaceEndsTheFullRun) {
   }
 }
 
+TEST_F(DefaultProcedureTest, APointerThatIsPutElsewhereEndsNothingUntilItLeavesThatPlace) {
+  EXPECT_FALSE(endsAfter(WindowKind::fullRun, {{WM_MOUSEMOVE, 0, at(700, 500)},
+                                               {WM_MOUSEMOVE, pointerWasPut, at(100, 90)},
+                                               {WM_MOUSEMOVE, 0, at(104, 94)}}));
+  EXPECT_TRUE(endsAfter(WindowKind::fullRun, {{WM_MOUSEMOVE, 0, at(700, 500)},
+                                              {WM_MOUSEMOVE, pointerWasPut, at(100, 90)},
+                                              {WM_MOUSEMOVE, 0, at(105, 90)}}));
+}
+
 TEST_F(DefaultProcedureTest, PlacesLeftOfAndFarRightOnTheScreenAreRead) {
   EXPECT_FALSE(endsAfter(WindowKind::fullRun, {{WM_MOUSEMOVE, 0, at(-3, -3)}, {WM_MOUSEMOVE, 0, at(1, 1)}}));
   EXPECT_FALSE(endsAfter(WindowKind::fullRun,
