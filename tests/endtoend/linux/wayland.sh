@@ -30,6 +30,11 @@ runs_watched() {
     ok "$name: nothing is drawn that nobody sees"
   fi
   tell "frames 1"
+  check "$name: seen on one output it goes on" frames_come
+  tell last-commits; before=$((answer))
+  frames_come; frames_come
+  same "$name: there alone" "$before" "$(tell last-commits; echo "$answer")"
+  tell "frames 2"
   check "$name: seen again it goes on" frames_come
   tell faults
   same "$name: as before" "0 torn, 0 untold" "$answer"

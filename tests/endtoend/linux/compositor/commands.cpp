@@ -67,6 +67,9 @@ std::string answerTo(const Server& server, const std::string& word) {
   if (word == "commits") {
     return std::to_string(server.commits);
   }
+  if (word == "last-commits") {
+    return server.surfaces.empty() ? "0" : std::to_string(server.surfaces.back()->commits);
+  }
   if (word == "faults") {
     return std::to_string(server.torn) + " torn, " + std::to_string(server.untold) + " untold";
   }
@@ -110,7 +113,7 @@ std::string obey(Server& server, const std::string& line) {
     return answer;
   }
   if (word == "frames") {
-    server.sendsFrames = first != 0;
+    server.wantsFrames = first;
   } else if (word == "motion") {
     movePointer(server, first, second);
   } else if (word == "key") {

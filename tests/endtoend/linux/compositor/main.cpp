@@ -28,9 +28,7 @@ int readLine(int, std::uint32_t, void* data) {
 
 int sendFrames(void* data) {
   auto& server = *static_cast<Server*>(data);
-  if (server.sendsFrames) {
-    sendFrameCallbacks(server);
-  }
+  sendFrameCallbacks(server);
   wl_event_source_timer_update(server.timer, frameTime);
   return 0;
 }

@@ -37,6 +37,7 @@ struct Surface {
 
   wl_resource* held = nullptr;  // the buffer that is read until the next one comes
   std::uint64_t heldHash = 0;
+  int commits = 0;  // with a buffer
   wl_listener heldGone{};
   int width = 0, height = 0;
   std::vector<std::uint32_t>
@@ -49,7 +50,7 @@ struct Server {
   std::vector<Surface*> surfaces;  // in the order of their making
   std::vector<wl_resource*> pointers, keyboards, touches;
   wl_event_source* timer = nullptr;
-  bool sendsFrames = true;
+  int wantsFrames = 2;  // 0: of no surface, 1: of the first alone, 2: of all
   bool isPointerInside = false;
   std::string cursor = "unset";
   int commits = 0;  // with a buffer

@@ -68,6 +68,7 @@ void show(Surface& surface) {
   surface.heldHash = hashOf(buffer);
   surface.heldGone.notify = noteHeldGone;
   wl_resource_add_destroy_listener(surface.held, &surface.heldGone);
+  ++surface.commits;
   ++surface.server->commits;
 }
 
@@ -150,6 +151,9 @@ void destroyResource(wl_client*, wl_resource* resource) {
 
 void sendFrameCallbacks(Server& server) {
   for (Surface* surface : server.surfaces) {
+    if (server.wantsFrames == 0 || (server.wantsFrames == 1 && surface != server.surfaces[0])) {
+      continue;
+    }
     while (!surface->callbacks.empty()) {
       wl_callback_send_done(surface->callbacks.front(), 0);
       wl_resource_destroy(surface->callbacks.front());
