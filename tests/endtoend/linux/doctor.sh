@@ -83,6 +83,29 @@ fi
 start_daemon
 "$lunaria" --install-xscreensaver >/dev/null
 
+# MATE's own screen saver, where its settings are installed; a process of its name is enough.
+export GSETTINGS_BACKEND=keyfile
+if gsettings get org.mate.screensaver mode >/dev/null 2>&1; then
+  kill "$daemon"; wait "$daemon" 2>/dev/null
+  cp "$work/bin/xscreensaver" "$work/bin/mate-screensaver"
+  "$work/bin/mate-screensaver" 1000 &
+  mate=$!
+  servers+=("$mate")
+  gsettings set org.mate.screensaver themes "['screensavers-lunaria']"
+  gsettings set org.mate.screensaver mode single
+  gsettings set org.mate.session idle-delay 7
+  doctor
+  check "MATE shows Lunaria" says "MATE's screen saver runs here and shows Lunaria after 7 minutes."
+  gsettings set org.mate.screensaver mode blank-only
+  doctor
+  same "MATE shows nothing: exit code" 1 "$code"
+  check "MATE shows nothing" says "does not show Lunaria. Cure: choose Lunaria in MATE's Control Center"
+  kill "$mate"; wait "$mate" 2>/dev/null
+  start_daemon
+else
+  echo "skipped  MATE's screen saver: install mate-screensaver and libglib2.0-bin"
+fi
+
 printf 'moonSize=300\nnonsense\n\001\002\n' >"$settings"
 doctor
 same "damaged settings: exit code" 1 "$code"
