@@ -122,10 +122,12 @@ Section "Uninstall"
   Call un.TellOfRestart
 SectionEnd
 
-; What the saver wrote of itself goes: the record of use, the log. What the user wrote goes only if that is wished.
+; What the saver wrote of itself goes: the record of use, the log, a file that a power cut left half written (.new). What
+; the user wrote goes only if that is wished.
 Function un.RemoveTraces
   SetShellVarContext all
   Delete "$APPDATA\Lunaria software\usage.txt"
+  Delete "$APPDATA\Lunaria software\*.new"
   ${If} $wantsPurge == 1
     Delete "$APPDATA\Lunaria software\Lunaria screensaver.ini"
   ${EndIf}
@@ -134,6 +136,7 @@ Function un.RemoveTraces
   SetShellVarContext current
   Delete "$TEMP\Lunaria.xplLog.txt"
   Delete "$DESKTOP\Lunaria.xplLog.txt"
+  Delete "$APPDATA\Lunaria software\*.new"
   ${If} $wantsPurge == 1
     Delete "$APPDATA\Lunaria software\Lunaria screensaver.ini"
     Delete "$APPDATA\Lunaria software\userQuotes.txt"

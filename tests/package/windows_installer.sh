@@ -87,7 +87,8 @@ mv "$saver_file.away" "$saver_file"
 # Removing keeps what the user wrote, and nothing else.
 settle
 mkdir -p "$user_data" "$common_data"
-for file in "$user_data/Lunaria screensaver.ini" "$user_data/userQuotes.txt" "$common_data/usage.txt" "$log"; do
+for file in "$user_data/Lunaria screensaver.ini"{,.32-0.new} "$user_data/userQuotes.txt" \
+  "$common_data/usage.txt"{,.32-1.new} "$log" "${user_data%/AppData/*}/Desktop/Lunaria.xplLog.txt"; do
   echo written > "$file"
 done
 remove /S

@@ -18,7 +18,8 @@ make_scratch_prefix() {
   folder="$prefix/drive_c/Program Files/Lunaria"
   common_data="$prefix/drive_c/ProgramData/Lunaria software"
   user_data="$(echo "$prefix"/drive_c/users/*/AppData/Roaming | tr ' ' '\n' | grep -v /Public/ | head -n 1)/Lunaria software"
-  rm -rf "$user_data" "$common_data" "$log"
+  # What earlier runs of the saver left there.
+  rm -rf "$user_data" "$common_data" "$log" "$prefix"/drive_c/users/*/Desktop/Lunaria.xplLog.txt
 }
 
 # Waits until every Windows program of the prefix has ended, the installer's helpers among them.
