@@ -1,57 +1,9 @@
 // Tests how Lunaria is put into XScreenSaver's preferences and taken out again.
-#include <gtest/gtest.h>
-
-#include "host/linux/xscreensaverChoice.h"
-#include "host/linux/xscreensaverPrograms.h"
-#include "support/random.h"
+#include "host/linux/xscreensaverChoiceFixture.h"
 
 using namespace xscreensaver;
 
 namespace {
-
-const std::string command = "lunaria --root";
-
-bool everything(const std::string& /*program*/) {
-  return true;
-}
-
-Chosen chosenIn(const std::string& text) {
-  return choose(text, command, everything);
-}
-
-std::vector<Entry> entriesOf(const std::string& text) {
-  const auto lines = linesOf(text);
-  const Line* line = lineOf(lines, "programs");
-  return line != nullptr ? programsOf(text, *line).entries : std::vector<Entry>();
-}
-
-std::string valueOf(const std::string& text, const std::string& key) {
-  const auto lines = linesOf(text);
-  const Line* line = lineOf(lines, key);
-  return line != nullptr ? plainValue(text, *line) : "(none)";
-}
-
-// The command that XScreenSaver starts in the mode "one".
-std::string startedBy(const std::string& text) {
-  const auto entries = entriesOf(text);
-  const auto number = std::stoul(valueOf(text, "selected"));
-  return valueOf(text, "mode") == "one" && number < entries.size() ? entries[number].command : "";
-}
-
-void expectRoundTrip(const std::string& text) {
-  SCOPED_TRACE(testing::PrintToString(text));
-  const Chosen chosen = chosenIn(text);
-  EXPECT_EQ(startedBy(chosen.text), command);
-  EXPECT_EQ(takeOut(chosen.text, chosen.before), text);
-}
-
-// As the settings program of XScreenSaver 6.06 writes it, in small.
-const std::string written =
-    "# XScreenSaver Preferences File\n# Written by "
-    "somebody.\n\ntimeout:\t0:10:00\nmode:\t\trandom\nselected:\t1\n\n"
-    "programs:\t\t\t\t\t\t\t\t      \\\n\t\t\t\tmaze --root\t\t\t\t    \\n\\\n- GL: \t\t\t\tcubes "
-    "--root\t\t\t    \\n\\\n\n\n"
-    "pointerHysteresis:  10\n";
 
 TEST(XscreensaverChoice, TheEntryFollowsThoseThatAreThereInTheirForm) {
   EXPECT_EQ(chosenIn(written).text,
@@ -231,86 +183,6 @@ TEST(XscreensaverChoice, NothingIsTakenOutWhereNothingIs) {
     EXPECT_FALSE(isListed(text));
   }
   EXPECT_TRUE(isListed(chosenIn("").text));
-}
-
-// Pieces of which every strange file can be made; none is an entry of ours.
-const std::vector<std::string> tokens = {"mode",
-                                         "selected",
-                                         "programs",
-                                         "PROGRAMS",
-                                         "timeout",
-                                         ":",
-                                         ":",
-                                         ": ",
-                                         "\t",
-                                         " ",
-                                         "#",
-                                         "\\",
-                                         "\\\\",
-                                         "\n",
-                                         "\n",
-                                         "\n",
-                                         "\\\n",
-                                         "\\n\\\n",
-                                         "\\n",
-                                         " \\n ",
-                                         "one",
-                                         "random",
-                                         "0",
-                                         "1",
-                                         "-1",
-                                         "maze --root",
-                                         "- GL: b --root",
-                                         "\"x y\" c",
-                                         "\\t",
-                                         "\r",
-                                         "programs: ",
-                                         "\nprograms: \\\n",
-                                         "\nmode:\t",
-                                         "\nselected: ",
-                                         "\xff",
-                                         "lunar --root"};
-
-std::string randomText() {
-  std::string text;
-  const int length = xplRandom::next() % 24;
-  for (int i = 0; i < length; ++i) {
-    const auto token = static_cast<std::size_t>(xplRandom::next()) % tokens.size();
-    text += tokens[token];
-  }
-  return text;
-}
-
-TEST(XscreensaverChoice, TakingOutUndoesChoosingForAnyText) {
-  xplRandom::seed(20261121);
-  int tried = 0;
-  for (int i = 0; i < 20000; ++i) {
-    const std::string text = randomText();
-    if (!isListBroken(text)) {
-      expectRoundTrip(text);
-      ++tried;
-    }
-    if (HasFailure()) {
-      break;
-    }
-  }
-  EXPECT_GT(tried, 15000);
-}
-
-TEST(XscreensaverChoice, TheOrderOfTheOtherEntriesNeverChanges) {
-  xplRandom::seed(5);
-  for (int i = 0; i < 5000; ++i) {
-    const std::string text = randomText();
-    if (isListBroken(text)) {
-      continue;
-    }
-    const auto before = entriesOf(text);
-    const auto after = entriesOf(chosenIn(text).text);
-    ASSERT_EQ(after.size(), before.size() + 1) << testing::PrintToString(text);
-    for (std::size_t entry = 0; entry < before.size(); ++entry) {
-      ASSERT_EQ(after[entry].command, before[entry].command) << testing::PrintToString(text);
-    }
-  }
 }
 
 }  // namespace
