@@ -7,7 +7,6 @@
 #include <unistd.h>
 
 #include "host/linux/xscreensaverFixture.h"
-#include "host/linux/xscreensaverMemory.h"
 
 using testing::AllOf;
 using testing::EndsWith;

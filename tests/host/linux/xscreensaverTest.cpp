@@ -3,8 +3,6 @@
 #include <filesystem>
 
 #include <gmock/gmock.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 #include "host/linux/xscreensaverFixture.h"
 #include "host/linux/xscreensaverMemory.h"
