@@ -1,27 +1,14 @@
 // Implements memory shared with the display.
 #include "host/linux/sharedPixelMemory.h"
 
-#include <fcntl.h>
 #include <sys/mman.h>
 #include <xcb/shm.h>
 
-namespace {
-
-// A nameless file of this many bytes: it goes with its last user, also after a crash of both.
-FileDescriptor makeFile(std::size_t size) {
-  FileDescriptor file(::memfd_create("lunaria-frame", MFD_CLOEXEC));
-  // The memory is taken at once: were there too little, a write into it would end the program later.
-  if (file.isOpen() && ::posix_fallocate(file.get(), 0, static_cast<off_t>(size)) != 0) {
-    return {};
-  }
-  return file;
-}
-
-}  // namespace
+#include "host/linux/frameFile.h"
 
 std::unique_ptr<SharedPixelMemory> SharedPixelMemory::make(X11Connection& connection, int width, int height) {
   const std::size_t size = static_cast<std::size_t>(width) * static_cast<std::size_t>(height) * 4;
-  FileDescriptor file = makeFile(size);
+  FileDescriptor file = makeFrameFile(size);
   if (!file.isOpen()) {
     return nullptr;
   }

@@ -3,22 +3,11 @@
 
 #include <climits>
 
-#include <fcntl.h>
 #include <sys/mman.h>
 
-#include "host/linux/fileDescriptor.h"
+#include "host/linux/frameFile.h"
 
 namespace {
-
-// A nameless file of this many bytes: it goes with its last user, also after a crash of both.
-FileDescriptor makeFile(std::size_t size) {
-  FileDescriptor file(::memfd_create("lunaria-frame", MFD_CLOEXEC));
-  // The memory is taken at once: were there too little, a write into it would end the program later.
-  if (file.isOpen() && ::posix_fallocate(file.get(), 0, static_cast<off_t>(size)) != 0) {
-    return {};
-  }
-  return file;
-}
 
 void noteRelease(void* isBeingRead, wl_buffer*) {
   *static_cast<bool*>(isBeingRead) = false;
@@ -34,7 +23,7 @@ std::unique_ptr<ShmBuffer> ShmBuffer::make(wl_shm* sharedMemory, const xplEdges&
   if (size > INT_MAX) {
     return nullptr;  // more than the protocol can count
   }
-  const FileDescriptor file = makeFile(size);
+  const FileDescriptor file = makeFrameFile(size);
   if (!file.isOpen()) {
     return nullptr;
   }
