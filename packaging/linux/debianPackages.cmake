@@ -22,12 +22,13 @@ set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_LUNARIA_PACKAGE_NAME lunaria)
 set(CPACK_DEBIAN_LUNARIA_PACKAGE_DEPENDS fonts-liberation)
 set(CPACK_DEBIAN_LUNARIA_PACKAGE_RECOMMENDS lunaria-configure)
-set(CPACK_DEBIAN_LUNARIA_PACKAGE_SUGGESTS "xscreensaver | mate-screensaver")
+set(CPACK_DEBIAN_LUNARIA_PACKAGE_SUGGESTS "xscreensaver | mate-screensaver | swayidle")
 set(CPACK_DEBIAN_LUNARIA_DESCRIPTION "night sky as a screen saver
 Stars drift over a night sky of your choice, fly together and spell your
 messages; the moon stands in its present phase; quotations come and go.
 
-It runs under XScreenSaver and MATE, or at once from the menu. The program
+It runs under XScreenSaver and MATE, on Wayland with swayidle, or at once from
+the menu. The program
 lunaria-render makes pictures and videos of the same sky.")
 
 # Its settings, icon and saver are of one version.
