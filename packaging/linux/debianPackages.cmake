@@ -27,9 +27,9 @@ set(CPACK_DEBIAN_LUNARIA_DESCRIPTION "night sky as a screen saver
 Stars drift over a night sky of your choice, fly together and spell your
 messages; the moon stands in its present phase; quotations come and go.
 
-It runs under XScreenSaver and MATE, on Wayland with swayidle, or at once from
-the menu. The program
-lunaria-render makes pictures and videos of the same sky.")
+It runs under XScreenSaver and MATE, on Wayland with swayidle, or at once
+from the menu. The program lunaria-render makes pictures and videos of the
+same sky.")
 
 # Its settings, icon and saver are of one version.
 set(CPACK_DEBIAN_LUNARIA-CONFIGURE_PACKAGE_NAME lunaria-configure)
