@@ -18,8 +18,8 @@ MessageEditor::View MessageEditor::view() const {
     view.hasPrevious = index > 0;
     view.hasNext = index + 1 < m_messages.count();
   }
-  view.position = stringFormat("Message %i of %i", view.hasEntry ? static_cast<int>(index) + 1 : 0,
-                               static_cast<int>(m_messages.count()));
+  view.caption = stringFormat("Message %i of %i", view.hasEntry ? static_cast<int>(index) + 1 : 0,
+                              static_cast<int>(m_messages.count()));
   return view;
 }
 

@@ -1,4 +1,4 @@
-// Edits the list of messages, one entry at a time.
+// Edits the list of messages, one entry at a time. Texts are UTF-8 on Linux, the system code page on Windows.
 #pragma once
 
 #include <optional>
@@ -12,8 +12,8 @@ class MessageEditor {
   struct View {
     std::string message;
     std::string bottomLine;
-    std::string position;  // the caption of the frame
-    bool hasEntry;         // both edits and "Delete" are enabled
+    std::string caption;  // of the frame: which of how many messages this is
+    bool hasEntry;        // both edits and "Delete" are enabled
     bool hasPrevious;
     bool hasNext;
   };
@@ -33,7 +33,7 @@ class MessageEditor {
   // What one of the page's four buttons does (its id), with what stands in the two edits. "New" puts an empty
   // entry after the current one; "Delete" moves to the entry after the deleted one, or to the last.
   void press(int button, const std::string& message, const std::string& bottomLine);
-  // Writes the list into the store.
+  // Writes the list into the store; where the file cannot be written that is logged, and the list stays.
   void save() { m_messages.save(); }
 
  private:

@@ -114,7 +114,7 @@ void startTimedSleepPrevention(const std::vector<int>& checked, xplSettings& sto
 
 }  // namespace
 
-std::vector<int> controlsFor(int page, xplSettings& store) {
+std::vector<int> checkedControlsFor(int page, xplSettings& store) {
   std::vector<int> checked;
   if (const auto radio = radioSettingOf(page, store)) {
     checked.push_back(controlOf(radio->table, radio->setting.read()));

@@ -7,7 +7,7 @@
 
 // The ids of the controls of a page (PagePosition) that stand for the settings as they are: one radio button
 // of those that it has, and any number of check boxes. None for a page without either.
-std::vector<int> controlsFor(int page, xplSettings& store);
+std::vector<int> checkedControlsFor(int page, xplSettings& store);
 
 // Writes the settings of a page: `checked` holds the ids of all its controls that are checked. Where no radio
 // button is, the page's default counts. A page without settings of this kind writes nothing.

@@ -45,7 +45,7 @@ std::vector<int> SettingsSheet::open(int page) {
   if (page == messagesPage) {
     m_messages.load();
   }
-  return controlsFor(page, m_store);
+  return checkedControlsFor(page, m_store);
 }
 
 void SettingsSheet::clicked(int page, int control) const {

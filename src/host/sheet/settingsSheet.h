@@ -36,17 +36,18 @@ class SettingsSheet {
 
   // The page on which the sheet opens, in [0, pageCount).
   int startPage() const;
-  // The page becomes the active one, or stops being it.
+  // The page (PagePosition) becomes the active one, or stops being it.
   static void pageSwitched(int page);
   // Keeps the last active page for the next time; also after a cancelled sheet.
   void rememberPage();
 
   // Reads the settings of a page, from the file as it is now, and returns the ids of its controls that are to
-  // be checked.
+  // be checked. A file that cannot be read is logged; the values are then those that the store has already.
   std::vector<int> open(int page);
   bool isOpen(int page) const { return m_opened.contains(page); }
+  // What the Messages page works on; owned by the sheet. It is filled when that page is opened.
   MessageEditor& messages() { return m_messages; }
-  // The full path of the file that OK writes.
+  // The full path of the file that OK writes: UTF-8 on Linux, the system code page on Windows.
   const std::string& settingsFile() const { return m_store.filename(); }
 
   // A control was clicked: the Sounds page plays what was chosen.

@@ -11,7 +11,7 @@ enum class ControlKind { groupBox, radioButton, checkBox, label, multiLineEdit, 
 struct SheetControl {
   int id;  // controlIds::none where the control has none
   ControlKind kind;
-  const char* text;  // as the page is made; '\n' breaks lines
+  const char* text;  // as the page is made, in ASCII; '\n' breaks lines
 };
 
 struct SheetPage {

@@ -13,14 +13,14 @@ TEST_F(MessageEditing, AnEmptyListDisablesEverythingButNew) {
   EXPECT_FALSE(view.hasNext);
   EXPECT_EQ(view.message, "");
   EXPECT_EQ(view.bottomLine, "");
-  EXPECT_EQ(view.position, "Message 0 of 0");
+  EXPECT_EQ(view.caption, "Message 0 of 0");
 }
 
 TEST_F(MessageEditing, AFreshInstallationShowsTheFirstOfTwo) {
   xplUserSettings().set("msg_defaultMessagesAdded", "0");
   editor.load();
   EXPECT_EQ(editor.view().message, "Your message\r\nhere");
-  EXPECT_EQ(editor.view().position, "Message 1 of 2");
+  EXPECT_EQ(editor.view().caption, "Message 1 of 2");
 }
 
 TEST_F(MessageEditing, OneEntryHasNoNeighbours) {
@@ -29,7 +29,7 @@ TEST_F(MessageEditing, OneEntryHasNoNeighbours) {
   EXPECT_TRUE(view.hasEntry);
   EXPECT_FALSE(view.hasPrevious);
   EXPECT_FALSE(view.hasNext);
-  EXPECT_EQ(view.position, "Message 1 of 1");
+  EXPECT_EQ(view.caption, "Message 1 of 1");
 }
 
 TEST_F(MessageEditing, TheMiddleHasBothNeighbours) {
@@ -40,18 +40,18 @@ TEST_F(MessageEditing, TheMiddleHasBothNeighbours) {
   EXPECT_EQ(view.bottomLine, "two line");
   EXPECT_TRUE(view.hasPrevious);
   EXPECT_TRUE(view.hasNext);
-  EXPECT_EQ(view.position, "Message 2 of 3");
+  EXPECT_EQ(view.caption, "Message 2 of 3");
 }
 
 TEST_F(MessageEditing, NextAndPreviousStopAtTheEnds) {
   loadList({"one", "two"});
   press(controlIds::previousMessage);
-  EXPECT_EQ(editor.view().position, "Message 1 of 2");
+  EXPECT_EQ(editor.view().caption, "Message 1 of 2");
   press(controlIds::nextMessage);
   press(controlIds::nextMessage);
-  EXPECT_EQ(editor.view().position, "Message 2 of 2");
+  EXPECT_EQ(editor.view().caption, "Message 2 of 2");
   press(controlIds::previousMessage);
-  EXPECT_EQ(editor.view().position, "Message 1 of 2");
+  EXPECT_EQ(editor.view().caption, "Message 1 of 2");
 }
 
 TEST_F(MessageEditing, NextAndPreviousStoreWhatWasTyped) {
@@ -67,7 +67,7 @@ TEST_F(MessageEditing, NewComesAfterTheCurrentEntryAndStoresWhatWasTyped) {
   press(controlIds::newMessage, "uno", "primo");
   EXPECT_EQ(editor.view().message, "");
   EXPECT_EQ(editor.view().bottomLine, "");
-  EXPECT_EQ(editor.view().position, "Message 2 of 3");
+  EXPECT_EQ(editor.view().caption, "Message 2 of 3");
   editor.storeEdits("between", "b");
   EXPECT_THAT(listAfterSaving(), ElementsAre("uno|primo", "between|b", "two|two line"));
 }
@@ -76,7 +76,7 @@ TEST_F(MessageEditing, NewOnAnEmptyListIsTheFirst) {
   loadList({});
   press(controlIds::newMessage, "", "");
   EXPECT_TRUE(editor.view().hasEntry);
-  EXPECT_EQ(editor.view().position, "Message 1 of 1");
+  EXPECT_EQ(editor.view().caption, "Message 1 of 1");
   EXPECT_THAT(listAfterSaving(), ElementsAre("|"));
 }
 
@@ -84,7 +84,7 @@ TEST_F(MessageEditing, DeleteShowsTheEntryAfterIt) {
   loadList({"one", "two", "three"});
   press(controlIds::deleteMessage, "typed in vain", "");
   EXPECT_EQ(editor.view().message, "two");
-  EXPECT_EQ(editor.view().position, "Message 1 of 2");
+  EXPECT_EQ(editor.view().caption, "Message 1 of 2");
   EXPECT_THAT(listAfterSaving(), ElementsAre("two|two line", "three|three line"));
 }
 
@@ -93,7 +93,7 @@ TEST_F(MessageEditing, DeleteOfTheLastEntryMovesBack) {
   press(controlIds::nextMessage);
   press(controlIds::deleteMessage);
   EXPECT_EQ(editor.view().message, "one");
-  EXPECT_EQ(editor.view().position, "Message 1 of 1");
+  EXPECT_EQ(editor.view().caption, "Message 1 of 1");
 }
 
 TEST_F(MessageEditing, DeleteOfTheOnlyEntryLeavesAnEmptyListForGood) {
@@ -102,7 +102,7 @@ TEST_F(MessageEditing, DeleteOfTheOnlyEntryLeavesAnEmptyListForGood) {
   EXPECT_FALSE(editor.view().hasEntry);
   press(controlIds::deleteMessage);
   press(controlIds::nextMessage, "nobody", "nothing");
-  EXPECT_EQ(editor.view().position, "Message 0 of 0");
+  EXPECT_EQ(editor.view().caption, "Message 0 of 0");
   EXPECT_TRUE(listAfterSaving().empty());
   EXPECT_EQ(xplUserSettings().get("messagesCount"), "0");
 }
@@ -119,6 +119,6 @@ TEST_F(MessageEditing, ThousandsOfMessagesAreEdited) {
   press(controlIds::newMessage);
   press(controlIds::deleteMessage);
   EXPECT_EQ(editor.view().message, "message 2501");
-  EXPECT_EQ(editor.view().position, "Message 2502 of 5000");
+  EXPECT_EQ(editor.view().caption, "Message 2502 of 5000");
   EXPECT_EQ(listAfterSaving().size(), 5000U);
 }

@@ -17,7 +17,7 @@ TEST_F(MessageEditing, LoadingAgainForgetsWhatWasNotSaved) {
   press(controlIds::nextMessage, "changed", "");
   editor.load();
   EXPECT_EQ(editor.view().message, "one");
-  EXPECT_EQ(editor.view().position, "Message 1 of 2");
+  EXPECT_EQ(editor.view().caption, "Message 1 of 2");
 }
 
 TEST_F(MessageEditing, WhatStandsAsItWasFilledIsKeptByteForByte) {

@@ -33,7 +33,7 @@ class PageSettings : public PrivateFolders {
   // The radio button that a stored text shows.
   static int shownFor(int page, const std::string& key, const std::string& text) {
     xplUserSettings().set(key, text);
-    const auto checked = controlsFor(page, xplUserSettings());
+    const auto checked = checkedControlsFor(page, xplUserSettings());
     return checked.empty() ? 0 : checked.front();
   }
   static void expectFallback(int page, const std::string& key, int control,
@@ -50,7 +50,7 @@ TEST_F(PageSettings, MoonSizesMapBothWays) {
 
 TEST_F(PageSettings, AnotherMoonSizeShowsMediumAndBecomes200) {
   expectFallback(moonPage, "moonSize", 1004, {"250", "0", "-100", "101", "2147483647"});
-  writePageSettings(moonPage, controlsFor(moonPage, xplUserSettings()), xplUserSettings());
+  writePageSettings(moonPage, checkedControlsFor(moonPage, xplUserSettings()), xplUserSettings());
   EXPECT_EQ(xplUserSettings().get("moonSize"), "200");
 }
 
@@ -78,10 +78,10 @@ TEST_F(PageSettings, AnotherSoundShowsSilence) {
 TEST_F(PageSettings, TheCookooMapsBothWays) {
   writePageSettings(soundsPage, {1035}, xplUserSettings());
   EXPECT_EQ(xplUserSettings().get("snd_cookooEveryHour"), "no");
-  EXPECT_THAT(controlsFor(soundsPage, xplUserSettings()), ElementsAre(1035));
+  EXPECT_THAT(checkedControlsFor(soundsPage, xplUserSettings()), ElementsAre(1035));
   writePageSettings(soundsPage, {1035, 1039}, xplUserSettings());
   EXPECT_EQ(xplUserSettings().get("snd_cookooEveryHour"), "yes");
-  EXPECT_THAT(controlsFor(soundsPage, xplUserSettings()), ElementsAre(1035, 1039));
+  EXPECT_THAT(checkedControlsFor(soundsPage, xplUserSettings()), ElementsAre(1035, 1039));
 }
 
 TEST_F(PageSettings, EachCategoryOfQuotesMapsToItsKey) {
@@ -93,13 +93,13 @@ TEST_F(PageSettings, EachCategoryOfQuotesMapsToItsKey) {
     for (const auto& other : rows) {
       EXPECT_EQ(xplUserSettings().get(other.second), other.first == control ? "yes" : "no") << key;
     }
-    EXPECT_THAT(controlsFor(quotesPage, xplUserSettings()), ElementsAre(control));
+    EXPECT_THAT(checkedControlsFor(quotesPage, xplUserSettings()), ElementsAre(control));
   }
 }
 
 TEST_F(PageSettings, AllCategoriesCanBeOn) {
   writePageSettings(quotesPage, {1026, 1027, 1028, 1029, 1030, 1031}, xplUserSettings());
-  EXPECT_THAT(controlsFor(quotesPage, xplUserSettings()),
+  EXPECT_THAT(checkedControlsFor(quotesPage, xplUserSettings()),
               UnorderedElementsAre(1026, 1027, 1028, 1029, 1030, 1031));
 }
 
@@ -136,17 +136,17 @@ TEST_F(PageSettings, AnotherStartupEffectShowsNone) {
 }
 
 TEST_F(PageSettings, FreshInstallationShowsTheDefaults) {
-  EXPECT_THAT(controlsFor(moonPage, xplUserSettings()), ElementsAre(1005));
-  EXPECT_THAT(controlsFor(backgroundPage, xplUserSettings()), ElementsAre(1011));
-  EXPECT_THAT(controlsFor(soundsPage, xplUserSettings()), ElementsAre(1035, 1039));
-  EXPECT_THAT(controlsFor(quotesPage, xplUserSettings()), IsEmpty());
-  EXPECT_THAT(controlsFor(powerPage, xplUserSettings()), ElementsAre(1008));
-  EXPECT_THAT(controlsFor(startupPage, xplUserSettings()), ElementsAre(1007));
+  EXPECT_THAT(checkedControlsFor(moonPage, xplUserSettings()), ElementsAre(1005));
+  EXPECT_THAT(checkedControlsFor(backgroundPage, xplUserSettings()), ElementsAre(1011));
+  EXPECT_THAT(checkedControlsFor(soundsPage, xplUserSettings()), ElementsAre(1035, 1039));
+  EXPECT_THAT(checkedControlsFor(quotesPage, xplUserSettings()), IsEmpty());
+  EXPECT_THAT(checkedControlsFor(powerPage, xplUserSettings()), ElementsAre(1008));
+  EXPECT_THAT(checkedControlsFor(startupPage, xplUserSettings()), ElementsAre(1007));
 }
 
 TEST_F(PageSettings, PagesWithoutSuchControlsHaveNoneAndWriteNothing) {
   for (const int page : {+messagesPage, +aboutPage, 8, -1}) {
-    EXPECT_THAT(controlsFor(page, xplUserSettings()), IsEmpty()) << page;
+    EXPECT_THAT(checkedControlsFor(page, xplUserSettings()), IsEmpty()) << page;
     writePageSettings(page, {1003, 1026}, xplUserSettings());
   }
   EXPECT_EQ(readFile(xplUserSettings().filename()), "");
@@ -168,7 +168,7 @@ TEST_F(PageSettings, WhatHasNoControlIsLeftAlone) {
   cAppSettings().showQuotes_UserQuotes.write(true);
   cSoundSettings().snd_loopSound.write(true);
   for (int page = 0; page < pageCount; ++page) {
-    writePageSettings(page, controlsFor(page, xplUserSettings()), xplUserSettings());
+    writePageSettings(page, checkedControlsFor(page, xplUserSettings()), xplUserSettings());
   }
   EXPECT_TRUE(cAppSettings().showQuotes_UserQuotes.read());
   EXPECT_TRUE(cSoundSettings().snd_loopSound.read());

@@ -5,7 +5,8 @@
 #include <QPalette>
 
 // True where the desktop's portal on this bus answers that dark colours are wanted. False also where there is
-// no bus or no portal, or where it does not answer at once; none is started for this question.
+// no bus or no portal, or where it does not answer at once; none is started for this question, and an answer
+// is waited for 200 milliseconds at most.
 bool desktopWantsDark(const QDBusConnection& bus);
 
 // Light texts on dark grey, for all controls, those that are switched off included.

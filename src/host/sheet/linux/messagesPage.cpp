@@ -105,7 +105,7 @@ void MessagesPage::refresh() {
   m_message->setMessage(view.message);
   m_bottomLine->setText(QString::fromStdString(view.bottomLine));
   m_editor.filled(m_message->message(), limitedText(m_bottomLine->text()));
-  m_frame->setTitle(QString::fromStdString(view.position));
+  m_frame->setTitle(QString::fromStdString(view.caption));
   m_message->setEnabled(view.hasEntry);
   m_bottomLine->setEnabled(view.hasEntry);
   enable(controlIds::deleteMessage, view.hasEntry);

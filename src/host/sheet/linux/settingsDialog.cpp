@@ -56,40 +56,40 @@ SettingsDialog::SettingsDialog(SettingsSheet& sheet)
   m_tabs->setCurrentIndex(m_active);
   open(m_active);
   SettingsSheet::pageSwitched(m_active);
-  connect(m_tabs, &QTabWidget::currentChanged, this, [this](int position) { turnTo(position); });
+  connect(m_tabs, &QTabWidget::currentChanged, this, [this](int page) { turnTo(page); });
 }
 
-QWidget* SettingsDialog::makePage(int position) {
-  const SheetPage& page = sheetPages()[static_cast<std::size_t>(position)];
+QWidget* SettingsDialog::makePage(int page) {
+  const SheetPage& described = sheetPages()[static_cast<std::size_t>(page)];
   const Accelerators accelerators(QString(tabLetters) + buttonLetters);
-  switch (position) {
+  switch (page) {
     case messagesPage:
-      return m_messagesPage = new MessagesPage(page, accelerators, m_sheet.messages());
+      return m_messagesPage = new MessagesPage(described, accelerators, m_sheet.messages());
     case aboutPage:
       return m_aboutPage = new AboutPage;
     default:
-      return m_choicePages[static_cast<std::size_t>(position)] = new ChoicePage(
-                 page, accelerators, [this, position](int id) { m_sheet.clicked(position, id); });
+      return m_choicePages[static_cast<std::size_t>(page)] =
+                 new ChoicePage(described, accelerators, [this, page](int id) { m_sheet.clicked(page, id); });
   }
 }
 
-void SettingsDialog::turnTo(int position) {
+void SettingsDialog::turnTo(int page) {
   SettingsSheet::pageSwitched(m_active);
-  m_active = position;
-  if (!m_sheet.isOpen(position)) {
-    open(position);
+  m_active = page;
+  if (!m_sheet.isOpen(page)) {
+    open(page);
   }
-  SettingsSheet::pageSwitched(position);
+  SettingsSheet::pageSwitched(page);
 }
 
-void SettingsDialog::open(int position) {
-  const std::vector<int> checked = m_sheet.open(position);
-  if (position == messagesPage) {
+void SettingsDialog::open(int page) {
+  const std::vector<int> checked = m_sheet.open(page);
+  if (page == messagesPage) {
     m_messagesPage->refresh();
-  } else if (position == aboutPage) {
+  } else if (page == aboutPage) {
     m_aboutPage->open(m_sheet.settingsFile());
   } else {
-    m_choicePages[static_cast<std::size_t>(position)]->setChecked(checked);
+    m_choicePages[static_cast<std::size_t>(page)]->setChecked(checked);
   }
 }
 

@@ -15,15 +15,16 @@ class SettingsDialog : public QDialog {
   // Borrows the sheet, which must outlive the dialog.
   explicit SettingsDialog(SettingsSheet& sheet);
 
-  // Ends the dialog. Accepted: writes the opened pages first; where that fails the user is told, and the
-  // dialog stays as it is.
+  // Ends the dialog. Accepted (OK, Enter): writes the opened pages first; where that fails the user is told,
+  // and the dialog stays as it is. Anything else (Cancel, Escape, the window's cross) writes nothing.
   void done(int result) override;
 
  private:
-  // All pages are made at once, for the order of the tab stops, but each is read when it is seen first.
-  QWidget* makePage(int position);
-  void turnTo(int position);
-  void open(int position);
+  // All pages are made at once, for the order of the tab stops, but each is read when it is seen first. A
+  // page is named by its PagePosition.
+  QWidget* makePage(int page);
+  void turnTo(int page);
+  void open(int page);
   bool confirmsOncePressedControlChanges();
   bool save();
 
@@ -32,7 +33,7 @@ class SettingsDialog : public QDialog {
   std::array<ChoicePage*, pageCount> m_choicePages{};  // null for the two others
   MessagesPage* m_messagesPage = nullptr;
   AboutPage* m_aboutPage = nullptr;
-  int m_active;
+  int m_active;  // the PagePosition of the page in sight
 };
 
 // Shows the sheet and returns when it is closed; the remembered page is written then.

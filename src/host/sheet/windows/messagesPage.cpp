@@ -30,7 +30,7 @@ void refresh(HWND dialog, MessageEditor& editor) {
   SetDlgItemTextA(dialog, controlIds::message, view.message.c_str());
   SetDlgItemTextA(dialog, controlIds::bottomLine, view.bottomLine.c_str());
   editor.filled(textOf(dialog, controlIds::message), textOf(dialog, controlIds::bottomLine));
-  SetDlgItemTextA(dialog, controlIds::messagePosition, view.position.c_str());
+  SetDlgItemTextA(dialog, controlIds::messagePosition, view.caption.c_str());
   enable(dialog, controlIds::message, view.hasEntry);
   enable(dialog, controlIds::bottomLine, view.hasEntry);
   enable(dialog, controlIds::deleteMessage, view.hasEntry);

@@ -9,7 +9,7 @@ namespace {
 QtMessageHandler previousHandler = nullptr;
 
 // The display that is none says at each window what it cannot do with it.
-void hear(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+void passMessageOn(QtMsgType type, const QMessageLogContext& context, const QString& text) {
   if (text != "This plugin does not support propagateSizeHints()") {
     previousHandler(type, context, text);
   }
@@ -19,7 +19,7 @@ class Application : public testing::Environment {
  public:
   void SetUp() override {
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    previousHandler = qInstallMessageHandler(hear);
+    previousHandler = qInstallMessageHandler(passMessageOn);
     m_application = std::make_unique<QApplication>(m_count, m_arguments);
   }
   void TearDown() override { m_application.reset(); }

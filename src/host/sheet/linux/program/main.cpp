@@ -29,7 +29,7 @@ DISPLAY names the display.
 
 // The toolkit's words go into the log. One that ends the program is told to whoever started it, who would
 // otherwise find a core file.
-void hear(QtMsgType type, const QMessageLogContext&, const QString& text) {
+void takeToolkitMessage(QtMsgType type, const QMessageLogContext&, const QString& text) {
   if (type != QtFatalMsg) {
     logWarning().add(text.toStdString());
     return;
@@ -43,7 +43,7 @@ void hear(QtMsgType type, const QMessageLogContext&, const QString& text) {
 
 int showSettings(int& argc, char** argv) {
   const xplLog log("Lunaria-configure", false, false);
-  qInstallMessageHandler(hear);
+  qInstallMessageHandler(takeToolkitMessage);
   const QApplication application(argc, argv);
   QApplication::setApplicationDisplayName("");
   QApplication::setDesktopFileName(programFile);
