@@ -20,8 +20,8 @@ runs_watched() {
   check "$name: the pointer is hidden" until_true 2 answers cursor hidden
   tell "motion 104 97"
   tell leave
-  tell "motion 103 101"
-  check "$name: small movements and the loss of the focus end nothing" frames_come
+  tell "motion 300 200"
+  check "$name: small movements, the loss of the focus and a pointer that was put elsewhere end nothing" frames_come
 
   tell "frames 0"
   check "$name: nobody sees it" until_true 3 logged "drawing waits"
@@ -42,6 +42,7 @@ runs_watched() {
   tell "remove 1"
   check "$name: an output that goes takes its surface along" until_true 2 answers surfaces 1
   check "$name: and the run goes on" frames_come
+  check "$name: the saver knows" until_true 2 logged "Number of monitors:1"
   tell "add 640x480+800+0"
   check "$name: one that comes back is covered" until_true 2 answers surfaces 2
   check "$name: and shows the sky" until_true 2 all_show_sky

@@ -128,6 +128,20 @@ TEST(OutputLayout, NoPictureIsLargerThanAPointersCoordinates) {
   const auto layout = layOutOutputs({outputAt(0, 0, 1920, 1080), outputAt(1000000, 0, 1920, 1080)}, true);
   EXPECT_EQ(layout->width, 32767);
   EXPECT_EQ(layout->height, 1080);
+  EXPECT_EQ(listOf(layout->monitors), (std::vector<Edges>{{0, 0, 1920, 1080}}));
+}
+
+TEST(MonitorsOnAPicture, AreTheOutputsPartsOfItTheMainOneFirst) {
+  const auto layout = layOutOutputs({outputAt(0, 0, 1920, 1080), outputAt(1920, 0, 800, 600)}, true);
+  EXPECT_EQ(listOf(monitorsOn(layout->space, layout->width, layout->height,
+                              {outputAt(1920, 0, 1280, 1024), outputAt(0, 0, 1920, 1080)})),
+            (std::vector<Edges>{{0, 0, 1920, 1080}, {1920, 0, 2720, 1024}}));
+}
+
+TEST(MonitorsOnAPicture, AreNotThoseBesideIt) {
+  const auto layout = layOutOutputs({outputAt(0, 0, 1920, 1080)}, true);
+  EXPECT_TRUE(
+      monitorsOn(layout->space, layout->width, layout->height, {outputAt(1920, 0, 1280, 1024)}).empty());
 }
 
 TEST(PictureSpace, AnOutputThatComesLaterLiesWhereItLies) {

@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "host/linux/wayland/pictureParts.h"
+
 namespace {
 
 constexpr int largestPicture = 32767;  // pixels a side; what a pointer's coordinates in a message can hold
@@ -77,16 +79,26 @@ std::optional<OutputLayout> layOutOutputs(const std::vector<OutputFacts>& output
   const xplEdges bounds = boundsOf(outputs);
   OutputLayout layout;
   layout.space = {bounds.left, bounds.top, commonScaleOf(outputs, canScale)};
-  bool hasMain = false;
   for (const auto& output : outputs) {
     const xplEdges place = layout.space.placeOf(output);
-    layout.width = std::max(layout.width, place.right);
-    layout.height = std::max(layout.height, place.bottom);
-    const bool isMain = !hasMain && containsOrigin(output);
-    hasMain = hasMain || isMain;
-    layout.monitors.insert(isMain ? layout.monitors.begin() : layout.monitors.end(), place);
+    layout.width = std::min(std::max(layout.width, place.right), largestPicture);
+    layout.height = std::min(std::max(layout.height, place.bottom), largestPicture);
   }
-  layout.width = std::min(layout.width, largestPicture);
-  layout.height = std::min(layout.height, largestPicture);
+  layout.monitors = monitorsOn(layout.space, layout.width, layout.height, outputs);
   return layout;
+}
+
+std::vector<xplEdges> monitorsOn(const PictureSpace& space, int width, int height,
+                                 const std::vector<OutputFacts>& outputs) {
+  std::vector<xplEdges> monitors;
+  bool hasMain = false;
+  for (const auto& output : outputs) {
+    const xplEdges seen = commonPart(space.placeOf(output), {0, 0, width, height});
+    if (!isEmpty(seen)) {
+      const bool isMain = !hasMain && containsOrigin(output);
+      hasMain = hasMain || isMain;
+      monitors.insert(isMain ? monitors.begin() : monitors.end(), seen);
+    }
+  }
+  return monitors;
 }

@@ -49,5 +49,10 @@ struct OutputLayout {
 // is the one that contains the logical point (0, 0), or the first. Nothing where there is no output.
 std::optional<OutputLayout> layOutOutputs(const std::vector<OutputFacts>& outputs, bool canScale);
 
+// The places of these outputs on a picture of that space and size, as far as they lie on it, the main one
+// first. Empty where none does.
+std::vector<xplEdges> monitorsOn(const PictureSpace& space, int width, int height,
+                                 const std::vector<OutputFacts>& outputs);
+
 // Pixels of the picture to a logical one, if the picture is to have real pixels; 1 where that cannot be.
 double commonScaleOf(const std::vector<OutputFacts>& outputs, bool canScale);

@@ -12,6 +12,11 @@ bool isEmpty(const xplEdges& part) {
   return part.right <= part.left || part.bottom <= part.top;
 }
 
+bool areSame(const xplEdges& one, const xplEdges& other) {
+  return one.left == other.left && one.top == other.top && one.right == other.right &&
+         one.bottom == other.bottom;
+}
+
 void addParts(std::vector<xplEdges>& parts, std::span<const xplEdges> added, const xplEdges& all) {
   if (parts.size() + added.size() > mostParts) {
     parts.assign(1, all);

@@ -14,6 +14,7 @@ inline constexpr std::size_t mostParts = 1024;
 // What two parts have in common; empty where that is nothing.
 xplEdges commonPart(const xplEdges& one, const xplEdges& other);
 bool isEmpty(const xplEdges& part);
+bool areSame(const xplEdges& one, const xplEdges& other);
 
 // Appends parts. Those that are too many become `all`, alone.
 void addParts(std::vector<xplEdges>& parts, std::span<const xplEdges> added, const xplEdges& all);

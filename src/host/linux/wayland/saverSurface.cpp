@@ -22,10 +22,6 @@ int pixelsOf(int logical, int usualLogical, int usualPixels, double scale) {
   return logical == usualLogical ? usualPixels : std::max(rounded(logical * scale), 1);
 }
 
-bool areSame(const xplEdges& a, const xplEdges& b) {
-  return a.left == b.left && a.top == b.top && a.right == b.right && a.bottom == b.bottom;
-}
-
 }  // namespace
 
 SaverSurface::SaverSurface(const WaylandGlobals& globals, const Place& place, const MakeRole& makeRole)

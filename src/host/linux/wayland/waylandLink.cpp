@@ -30,6 +30,9 @@ void WaylandLink::collect() {
   m_window.follow();
   eraseOnce();
   noteSight();
+  if (m_window.takeMonitorsChanged()) {
+    m_pump.post(WM_DISPLAYCHANGE);
+  }
   flush();
   if (!m_connection.isUsable()) {
     m_pump.windowIsGone("the Wayland display " + m_connection.displayName() +

@@ -17,11 +17,13 @@ struct WaylandSeatListeners {
     if (surface != nullptr) {  // null where it was destroyed meanwhile
       const auto* const entered = static_cast<SaverSurface*>(wl_surface_get_user_data(surface));
       seatOf(data).m_pointerOn = entered->place();
-      seatOf(data).postPointer(x, y);
+      // It may have been put there since its output has gone. Who moves it over from one output to another
+      // moves it on there.
+      seatOf(data).postPointer(x, y, pointerWasPut);
     }
   }
   static void hearPointerMotion(void* data, wl_pointer*, std::uint32_t, wl_fixed_t x, wl_fixed_t y) {
-    seatOf(data).postPointer(x, y);
+    seatOf(data).postPointer(x, y, 0);
   }
   static void hearButton(void* data, wl_pointer*, std::uint32_t, std::uint32_t, std::uint32_t,
                          std::uint32_t state) {
@@ -129,8 +131,8 @@ void WaylandSeat::takeTouch() {
   wl_touch_add_listener(m_touch.get(), &listener, this);
 }
 
-void WaylandSeat::postPointer(wl_fixed_t x, wl_fixed_t y) {
+void WaylandSeat::postPointer(wl_fixed_t x, wl_fixed_t y, WPARAM how) {
   const int pictureX = m_pointerOn.pictureX(wl_fixed_to_double(x));
   const int pictureY = m_pointerOn.pictureY(wl_fixed_to_double(y));
-  m_pump.post(WM_MOUSEMOVE, 0, static_cast<LPARAM>((pictureX & 0xFFFF) | (pictureY & 0xFFFF) << 16));
+  m_pump.post(WM_MOUSEMOVE, how, static_cast<LPARAM>((pictureX & 0xFFFF) | (pictureY & 0xFFFF) << 16));
 }

@@ -21,7 +21,8 @@ class WaylandSeat {
   void takePointer();
   void takeKeyboard();
   void takeTouch();
-  void postPointer(wl_fixed_t x, wl_fixed_t y);
+  // how: the wParam of the message.
+  void postPointer(wl_fixed_t x, wl_fixed_t y, WPARAM how);
 
   MessagePump& m_pump;
   Proxy<wl_seat> m_seat;

@@ -6,6 +6,7 @@
 
 #include "graphics/linux/heapPixelMemory.h"
 #include "host/linux/wayland/layerRole.h"
+#include "host/linux/wayland/pictureParts.h"
 #include "host/linux/wayland/waylandOffers.h"
 #include "host/linux/wayland/windowRole.h"
 #include "support/log.h"
@@ -146,8 +147,19 @@ void WaylandWindow::follow() {
   dropClosed();
   if (m_globals.takeOutputsChanged() && m_kind == WindowKind::fullRun) {
     coverOutputs();
+    learnMonitors();
   }
   judgeClosed();
+}
+
+// While there is none the last ones stay: one of them may come back.
+void WaylandWindow::learnMonitors() {
+  auto monitors = monitorsOn(m_layout.space, m_layout.width, m_layout.height, m_globals.knownOutputs());
+  if (!monitors.empty() && !std::equal(monitors.begin(), monitors.end(), m_layout.monitors.begin(),
+                                       m_layout.monitors.end(), areSame)) {
+    m_layout.monitors = std::move(monitors);
+    m_haveMonitorsChanged = true;
+  }
 }
 
 void WaylandWindow::dropClosed() {

@@ -45,6 +45,8 @@ class WaylandWindow : public xpliNativeWindow {
   void follow();
   // True once after somebody has closed a window of the saver.
   bool takeClosing() { return std::exchange(m_isClosing, false); }
+  // True once after monitors() has changed.
+  bool takeMonitorsChanged() { return std::exchange(m_haveMonitorsChanged, false); }
   // Why the run cannot go on; empty where it can.
   const std::string& failure() const { return m_failure; }
 
@@ -55,6 +57,7 @@ class WaylandWindow : public xpliNativeWindow {
   void cover(const OutputFacts& output);
   void openOrdinary();
   void coverOutputs();
+  void learnMonitors();
   void dropClosed();
   void judgeClosed();
 
@@ -70,5 +73,6 @@ class WaylandWindow : public xpliNativeWindow {
   bool m_isShown = false;
   bool m_isContentLost = false;
   bool m_isClosing = false;
+  bool m_haveMonitorsChanged = false;
   std::string m_failure;
 };
