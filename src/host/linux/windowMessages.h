@@ -19,7 +19,7 @@ inline constexpr UINT WM_ERASEBKGND = 0x0014;
 inline constexpr UINT WM_DISPLAYCHANGE = 0x007E;  // monitors came, went or changed
 inline constexpr UINT WM_KEYDOWN = 0x0100;
 inline constexpr UINT WM_TIMER = 0x0113;
-inline constexpr UINT WM_MOUSEMOVE = 0x0200;    // lParam: x in the low 16 bits, y in the next, of the window
+inline constexpr UINT WM_MOUSEMOVE = 0x0200;  // lParam: x in the low 16 bits, y in the next, of the window
 // The pointer did not move by itself, but was put there: in the wParam of WM_MOUSEMOVE, which is 0 otherwise.
 inline constexpr WPARAM pointerWasPut = 1;
 inline constexpr UINT WM_LBUTTONDOWN = 0x0201;  // any button; the saver does not tell them apart
