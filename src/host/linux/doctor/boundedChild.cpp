@@ -56,6 +56,7 @@ int become(int output, std::vector<std::string>& command) {
     return failed;
   }
   std::vector<char*> words;
+  words.reserve(command.size() + 1);
   for (std::string& word : command) {
     words.push_back(word.data());
   }

@@ -51,7 +51,7 @@ int strangeLinesIn(const std::string& settings) {
 }
 
 Finding lookAtSettings(SystemView& system, const std::string& path) {
-  const Finding file = lookAtFile(system, "The settings", path);
+  Finding file = lookAtFile(system, "The settings", path);
   const auto content = file.isProblem() ? std::nullopt : system.contentOf(path);
   const int strange = content ? strangeLinesIn(*content) : 0;
   if (strange == 0) {

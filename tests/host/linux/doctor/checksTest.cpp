@@ -137,7 +137,7 @@ TEST_F(ChecksTest, DamagedSettingsAreAProblem) {
   system.contents["/s"] = "moonSize=300\nnonsense\n";
   EXPECT_EQ(problemsOf(FileCheck::look(system)),
             (Findings{{"The settings: the file is damaged, 1 line of it sets nothing:\n/s", cure}}));
-  system.contents["/s"] = std::string("=5\na\0b=1\n", 10) + "x\n";
+  system.contents["/s"] = std::string("=5\na\0b=1\n", 9) + "x\n";
   EXPECT_EQ(problemsOf(FileCheck::look(system)),
             (Findings{{"The settings: the file is damaged, 3 lines of it set nothing:\n/s", cure}}));
 }
