@@ -4,7 +4,7 @@
 #include <cstdlib>
 
 #include "host/linux/wayland/waylandDisplay.h"
-#include "host/linux/x11Display.h"
+#include "host/linux/x11/x11Display.h"
 
 namespace {
 

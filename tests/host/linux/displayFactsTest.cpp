@@ -1,8 +1,8 @@
 // Tests what is made of the display's answers.
 #include <gtest/gtest.h>
 
-#include "host/linux/makeX11Window.h"
-#include "host/linux/x11Facts.h"
+#include "host/linux/x11/makeX11Window.h"
+#include "host/linux/x11/x11Facts.h"
 
 namespace {
 

@@ -6,7 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "graphics/linux/memoryWindow.h"
-#include "host/linux/displayPower.h"
+#include "host/linux/x11/displayPower.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 
 #include <gmock/gmock.h>
 
-#include "host/linux/pixelFormat.h"
+#include "host/linux/x11/pixelFormat.h"
 
 namespace {
 

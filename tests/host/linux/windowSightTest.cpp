@@ -1,7 +1,7 @@
 // Tests what is made of the display's words on a window's being seen.
 #include <gtest/gtest.h>
 
-#include "host/linux/windowSight.h"
+#include "host/linux/x11/windowSight.h"
 
 namespace {
 

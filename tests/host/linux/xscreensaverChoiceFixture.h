@@ -6,8 +6,8 @@
 
 #include <gtest/gtest.h>
 
-#include "host/linux/xscreensaverChoice.h"
-#include "host/linux/xscreensaverPrograms.h"
+#include "host/linux/xscreensaver/xscreensaverChoice.h"
+#include "host/linux/xscreensaver/xscreensaverPrograms.h"
 
 namespace xscreensaver {
 

@@ -6,7 +6,7 @@
 
 #include "harness/privateFolders.h"
 #include "host/linux/hostFailure.h"
-#include "host/linux/xscreensaver.h"
+#include "host/linux/xscreensaver/xscreensaver.h"
 #include "support/fileSystem.h"
 
 class Xscreensaver : public PrivateFolders {

@@ -4,8 +4,8 @@
 
 #include <gmock/gmock.h>
 
+#include "host/linux/xscreensaver/xscreensaverMemory.h"
 #include "host/linux/xscreensaverFixture.h"
-#include "host/linux/xscreensaverMemory.h"
 
 using testing::HasSubstr;
 using testing::IsEmpty;

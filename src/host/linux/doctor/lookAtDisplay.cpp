@@ -5,8 +5,8 @@
 #include "host/linux/wayland/outputLayout.h"
 #include "host/linux/wayland/waylandConnection.h"
 #include "host/linux/wayland/waylandGlobals.h"
-#include "host/linux/x11Connection.h"
-#include "host/linux/x11Facts.h"
+#include "host/linux/x11/x11Connection.h"
+#include "host/linux/x11/x11Facts.h"
 
 namespace {
 

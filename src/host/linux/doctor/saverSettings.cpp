@@ -6,8 +6,8 @@
 #include <sstream>
 #include <vector>
 
-#include "host/linux/xscreensaverLines.h"
-#include "host/linux/xscreensaverPrograms.h"
+#include "host/linux/xscreensaver/xscreensaverLines.h"
+#include "host/linux/xscreensaver/xscreensaverPrograms.h"
 
 namespace {
 

@@ -13,7 +13,7 @@
 #include "host/linux/doctor/doctor.h"
 #include "host/linux/hostFailure.h"
 #include "host/linux/run.h"
-#include "host/linux/xscreensaver.h"
+#include "host/linux/xscreensaver/xscreensaver.h"
 #include "support/fileSystem.h"
 #include "support/linux/applicationLinux.h"
 #include "support/log.h"
