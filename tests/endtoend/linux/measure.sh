@@ -1,12 +1,19 @@
 #!/usr/bin/env bash
 # Measures the processor time of the full run at 1920x1080 with each background, everything shown (the first
-# message flies together meanwhile, quotes come and go), the display server included: on X11, and on Wayland where
-# there is sway.
+# message flies together meanwhile, quotes come and go), the display server included: on X11, and on Wayland
+# where there are weston and sway.
 # Usage: measure.sh BUILD_BIN_DIR [SECONDS]. No test: other work on the machine falsifies it.
 export LUNARIA_BIN=${1:?Usage: measure.sh BUILD_BIN_DIR [SECONDS]}
 seconds=${2:-30}
 . "$(dirname "$0")/waylandLib.sh"
 trap 'finish >/dev/null' EXIT
+# has PROGRAM...: whether all of them are here; says so where they are not.
+has() {
+  local program
+  for program in "$@"; do
+    command -v "$program" >/dev/null || { echo "no $program here: not measured"; return 1; }
+  done
+}
 ticks() { awk '{sum += $14 + $15} END {print sum}' "/proc/$1/stat"; }
 
 # measure NAME SERVER COMMAND...: the command tells when the sky is there.
@@ -30,7 +37,12 @@ measure() {
 }
 start_display 1920x1080x24
 measure X11 "$server" shows_sky root
-need sway swaymsg swaybg grim convert
-start_sway
-swaymsg -q output HEADLESS-1 resolution 1920x1080
-measure Wayland "$compositor_pid" output_shows_sky HEADLESS-1
+if has weston weston-screenshooter convert; then
+  start_weston desktop 1920x1080
+  measure weston "$compositor_pid" part_shows_sky 300x300+0+0
+fi
+if has sway swaymsg swaybg grim convert; then
+  start_sway
+  swaymsg -q output HEADLESS-1 resolution 1920x1080
+  measure sway "$compositor_pid" output_shows_sky HEADLESS-1
+fi

@@ -62,9 +62,10 @@ sway_answers() {
   SWAYSOCK=$(echo "$XDG_RUNTIME_DIR"/sway-ipc.*.sock)
   [ -S "$SWAYSOCK" ] && SWAYSOCK=$SWAYSOCK swaymsg -t get_version
 }
-# start_weston SHELL: 1280x720.
+# start_weston SHELL [WIDTHxHEIGHT]: of 1280x720 where no size is given.
 start_weston() {
-  weston --backend=headless-backend.so --use-pixman --width=1280 --height=720 --shell="$1-shell.so" \
+  local size=${2:-1280x720}
+  weston --backend=headless-backend.so --use-pixman --width="${size%x*}" --height="${size#*x}" --shell="$1-shell.so" \
     --socket="weston-$1" --debug --no-config >"$work/weston.log" 2>&1 &
   compositor_pid=$!
   servers+=("$compositor_pid")
@@ -79,3 +80,11 @@ output_shows_sky() { [ "$(output_colours "$1")" -gt 20 ]; }
 output_word() { picture "$1" && cksum <"$work/picture.ppm"; }
 output_word_is_not() { [ "$(output_word "$1")" != "$2" ]; }
 output_advances() { until_true 5 output_word_is_not "$1" "$(output_word "$1")"; }
+
+# screen: takes a picture of all that weston shows.
+screen() {
+  rm -f "$work"/wayland-screenshot*.png
+  weston-screenshooter >"$work/shooter.log" 2>&1 && mv "$work"/wayland-screenshot*.png "$work/screen.png"
+}
+# part_shows_sky GEOMETRY: whether there are many colours there.
+part_shows_sky() { screen && [ "$(convert "$work/screen.png" -crop "$1" +repage -format %k info:)" -gt 20 ]; }

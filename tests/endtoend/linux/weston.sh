@@ -3,13 +3,6 @@
 . "$(dirname "$0")/waylandLib.sh"
 need weston weston-screenshooter convert
 
-# screen: takes a picture of all that is shown.
-screen() {
-  rm -f "$work"/wayland-screenshot*.png
-  weston-screenshooter >"$work/shooter.log" 2>&1 && mv "$work"/wayland-screenshot*.png "$work/screen.png"
-}
-# part_shows_sky GEOMETRY: whether there are many colours there.
-part_shows_sky() { screen && [ "$(convert "$work/screen.png" -crop "$1" +repage -format %k info:)" -gt 20 ]; }
 all_of_it_shows_sky() { part_shows_sky 200x200+0+0 && part_shows_sky 200x200+1080+520; }
 word() { screen && convert "$work/screen.png" ppm:- | cksum; }
 word_is_not() { [ "$(word)" != "$1" ]; }
