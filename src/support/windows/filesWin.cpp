@@ -1,4 +1,5 @@
 // The file operations on Windows.
+#include <mutex>
 #include <string>
 
 #include "support/fileSystem.h"
@@ -20,6 +21,13 @@ HANDLE openForWriting(const std::string& path, DWORD access) {
     return INVALID_HANDLE_VALUE;
   }
   return file;
+}
+
+// Windows itself lets no two appends end up at one place; Wine does, and one of two threads' lines in the log
+// was lost now and then.
+std::mutex& oneAppendAtATime() {
+  static std::mutex mutex;
+  return mutex;
 }
 
 // A text with the line ends of a text file.
@@ -66,6 +74,7 @@ bool xplFileSystemMini::emptyFile(const std::string& path) {
 }
 
 bool xplFileSystemMini::appendToFile(const std::string& path, std::string_view text) {
+  const std::lock_guard lock(oneAppendAtATime());
   const Handle file(openForWriting(path, FILE_APPEND_DATA | SYNCHRONIZE));
   return file.isOpen() && writeAll(file.value(), withLineEnds(text));
 }
