@@ -16,9 +16,8 @@ class WindowTimers {
   struct Timer {
     std::uintptr_t id;
     FileDescriptor descriptor;
-    // How many periods have passed since the last look; both calls are looks.
+    // How many periods have passed since the last look.
     std::uint64_t periodsPassed() const;
-    bool hasTicked() const { return periodsPassed() > 0; }
   };
   const std::vector<Timer>& all() const { return m_timers; }
 

@@ -83,8 +83,7 @@ OwnFiles RealSystem::ownFiles() {
   const std::string userFolder = below(xplFileSystemMini::getFolder_UserData(), "Lunaria software");
   return {.settings = below(userFolder, "Lunaria screensaver.ini"),
           .quotes = below(userFolder, "userQuotes.txt"),
-          .usage = below(cTelemetryController::cacheFolderIn(xplFileSystemMini::getFolder_CommonAppData()),
-                         "usage.txt"),
+          .usage = below(cTelemetryController::cacheFolder(), "usage.txt"),
           .log = below(xplFileSystemMini::getFolder_Temporary(), "Lunaria.xplLog.txt")};
 }
 
