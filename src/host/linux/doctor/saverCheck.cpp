@@ -34,7 +34,7 @@ constexpr std::array idlePrograms{
     IdleProgram{"hypridle",
                 {"hypr/hypridle.conf", ""},
                 "in hypridle.conf, a listener: timeout = 600, on-timeout = lunaria"},
-    IdleProgram{"xss-lock", {"", ""}, "let xss-lock start it: xset s 600 && xss-lock lunaria"},
+    IdleProgram{"xss-lock", {"", ""}, "let xss-lock start it: xset s 600 0; xss-lock -- lunaria &"},
     IdleProgram{"xautolock", {"", ""}, "let xautolock start it: xautolock -time 10 -locker lunaria"},
 };
 

@@ -72,7 +72,7 @@ TEST(MinutesUntilLunaria, AreThoseOfTheTimeoutBeforeIt) {
 }
 
 TEST(MinutesUntilLunaria, AreOpenWhereNoTimeIsNamed) {
-  EXPECT_EQ(minutesUntilLunaria("xss-lock lunaria"), 0);
+  EXPECT_EQ(minutesUntilLunaria("xss-lock -- lunaria"), 0);
   EXPECT_EQ(minutesUntilLunaria("listener {\n  timeout = 300\n  on-timeout = lunaria\n}\n"), 0);
 }
 
