@@ -105,6 +105,14 @@ shows_sky() { [ "$(colours "$1")" -gt 20 ]; }
 frame_is_not() { [ "$(frame "$1")" != "$2" ]; }
 frames_advance() { until_true 5 frame_is_not "$1" "$(frame "$1")"; }
 
+# nothing_of COLOUR PICTURE [OPTION...]: whether a picture, or a part of it, shows nothing of a surface of this colour. A
+# few stars may have the colour by chance; a strip of one pixel along a monitor is more.
+nothing_of() {
+  local colour=$1 count; shift
+  count=$(convert "$@" -depth 8 -format %c histogram:info:- | grep -i "$colour" | awk '{sum += $1} END {print sum + 0}')
+  [ "$count" -lt 300 ]
+}
+
 # pixels_moved PROCESS WINDOW PAUSE: how many pixels of the screen differ between what a saver shows when it is stopped
 # and its first frame when it has gone on after so many seconds. pixels_moved_in SECONDS: while it runs.
 pixels_moved() {

@@ -5,7 +5,9 @@
 # Everything that the saver does not cover shows this colour.
 bare='#FF0000'
 # shows_no_desktop GEOMETRY: nothing of the desktop is left in this part of the screen.
-shows_no_desktop() { ! import -window root -crop "$1" +repage -depth 8 -format %c histogram:info:- | grep -qi "$bare"; }
+shows_no_desktop() {
+  import -window root -crop "$1" +repage "$work/part.ppm" && nothing_of "$bare" "$work/part.ppm"
+}
 shows_stars() { [ "$(import -window root -crop "$1" +repage -format %k info:)" -gt 20 ]; }
 # covered NAME SKY-GEOMETRY...: these monitors show the sky, and nothing of the desktop.
 covered() {

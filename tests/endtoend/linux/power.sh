@@ -57,7 +57,7 @@ done
 
 # A window of another program over all of it.
 covered() { logged "The window is covered: drawing waits"; }
-none_of_it_is_left() { ! import -window root -format %c histogram:info:- | grep -qi '#00F800'; }
+none_of_it_is_left() { import -window root "$work/screen.ppm" && nothing_of '#00F800' "$work/screen.ppm"; }
 # is_covered WINDOW NAME GEOMETRY: what becomes of the saver while something lies over its window.
 is_covered() {
   start_window "$3"

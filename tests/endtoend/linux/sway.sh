@@ -10,7 +10,7 @@ start_and_see_sway() {
   until_true 10 sway_shows_sky
 }
 # Its desktop is red.
-no_desktop() { picture "$1" && ! convert "$work/picture.ppm" -format %c histogram:info:- | grep -qi '#FF0000'; }
+no_desktop() { picture "$1" && nothing_of '#FF0000' "$work/picture.ppm"; }
 desktop_is_seen() { ! no_desktop "$1"; }
 tell_sway() { swaymsg -q -- "$@"; }
 
