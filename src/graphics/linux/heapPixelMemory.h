@@ -3,7 +3,7 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <vector>
+#include <memory>
 
 #include "graphics/linux/pixelMemory.h"
 
@@ -12,14 +12,18 @@ class HeapPixelMemory : public PixelMemory {
   // Sizes in pixels; below 0 counts as 0. Starts black. Throws std::bad_alloc where there is no memory.
   HeapPixelMemory(int width, int height);
 
-  std::uint32_t* pixels() override { return m_pixels.data(); }
-  const std::uint32_t* pixels() const override { return m_pixels.data(); }
+  std::uint32_t* pixels() override { return m_pixels.get(); }
+  const std::uint32_t* pixels() const override { return m_pixels.get(); }
   std::size_t stride() const override { return static_cast<std::size_t>(m_width); }
   int width() const override { return m_width; }
   int height() const override { return m_height; }
 
  private:
+  struct Release {
+    void operator()(std::uint32_t* pixels) const;
+  };
+
   int m_width;
   int m_height;
-  std::vector<std::uint32_t> m_pixels;
+  std::unique_ptr<std::uint32_t[], Release> m_pixels;
 };
