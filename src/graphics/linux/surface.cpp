@@ -100,16 +100,16 @@ void Surface::drawOverTile(const xplEdges& part, int column, int row, std::uint6
   const int left = std::max(part.left, tile.left);
   const int right = std::min(part.right, tile.right);
   const auto bytes = static_cast<std::size_t>(right - left) * sizeof(std::uint32_t);
-  bool hasChanged = false;
+  std::uint8_t changedRows = 0;
   for (int y = std::max(part.top, tile.top); y < std::min(part.bottom, tile.bottom); ++y) {
     std::uint32_t* const to = this->row(y) + left;
     const std::uint32_t* const from = sourceAt(left, y);
     if (std::memcmp(to, from, bytes) != 0) {
       std::memcpy(to, from, bytes);
-      hasChanged = true;
+      changedRows |= TileChanges::rowsOf(y, y + 1);
     }
   }
-  m_changes->drawnOver(column, row, isWhole ? content : 0, hasChanged);
+  m_changes->drawnOver(column, row, isWhole ? content : 0, changedRows);
 }
 
 template <class SourceAt>

@@ -3,6 +3,8 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
+#include <utility>
 
 namespace {
 
@@ -40,6 +42,8 @@ std::uint64_t hashOfPart(const PixelMemory& memory, const xplEdges& part) {
   return hash == 0 ? 1 : hash;
 }
 
+constexpr std::uint8_t allRows = 0xff;
+
 }  // namespace
 
 TileChanges::TileChanges(int width, int height)
@@ -47,20 +51,18 @@ TileChanges::TileChanges(int width, int height)
       m_height(height),
       m_columns(tilesIn(width, tileWidth)),
       m_rows(tilesIn(height, tileHeight)),
-      m_isMarked(m_columns * m_rows, 1),
+      m_touchedRows(m_columns * m_rows, allRows),
       m_cover(m_columns * m_rows, 0),
       m_shown(m_columns * m_rows, 0) {}
 
-void TileChanges::drawnOver(int column, int row, std::uint64_t cover, bool hasChanged) {
+void TileChanges::drawnOver(int column, int row, std::uint64_t cover, std::uint8_t changedRows) {
   const std::size_t tile = tileAt(column, row);
   m_cover[tile] = cover;
-  if (hasChanged) {
-    m_isMarked[tile] = 1;
-  }
+  m_touchedRows[tile] |= changedRows;
 }
 
 void TileChanges::markAll() {
-  std::fill(m_isMarked.begin(), m_isMarked.end(), std::uint8_t{1});
+  std::fill(m_touchedRows.begin(), m_touchedRows.end(), allRows);
   std::fill(m_cover.begin(), m_cover.end(), std::uint64_t{0});
 }
 
@@ -75,22 +77,33 @@ xplEdges TileChanges::edgesOf(int column, int row) const {
   return {left, top, std::min(left + tileWidth, m_width), std::min(top + tileHeight, m_height)};
 }
 
+xplEdges TileChanges::edgesOfRows(int column, int row, std::uint8_t rows) const {
+  xplEdges edges = edgesOf(column, row);
+  edges.bottom = std::min(edges.top + std::bit_width(rows), edges.bottom);
+  edges.top += std::countr_zero(rows);
+  return edges;
+}
+
 const std::vector<xplEdges>& TileChanges::takeChanged(const PixelMemory& memory) {
   m_changed.clear();
   for (std::size_t row = 0; row < m_rows; ++row) {
     bool joins = false;  // the tile on the left has changed as well
     for (std::size_t column = 0; column < m_columns; ++column) {
       const std::size_t tile = row * m_columns + column;
-      const bool wasMarked = m_isMarked[tile] != 0;
-      m_isMarked[tile] = 0;
-      const xplEdges edges = edgesOf(static_cast<int>(column), static_cast<int>(row));
-      const std::uint64_t hash = wasMarked ? hashOfPart(memory, edges) : m_shown[tile];
+      const std::uint8_t touchedRows = std::exchange(m_touchedRows[tile], std::uint8_t{0});
+      const int x = static_cast<int>(column);
+      const int y = static_cast<int>(row);
+      const std::uint64_t hash = touchedRows != 0 ? hashOfPart(memory, edgesOf(x, y)) : m_shown[tile];
       const bool isChanged = hash != m_shown[tile];
       m_shown[tile] = hash;
-      if (isChanged && joins) {
-        m_changed.back().right = edges.right;
-      } else if (isChanged) {
-        m_changed.push_back(edges);
+      if (isChanged) {
+        const xplEdges part = edgesOfRows(x, y, touchedRows);
+        if (joins) {
+          xplEdges& last = m_changed.back();
+          last = {last.left, std::min(last.top, part.top), part.right, std::max(last.bottom, part.bottom)};
+        } else {
+          m_changed.push_back(part);
+        }
       }
       joins = isChanged;
     }

@@ -25,8 +25,9 @@ class TileChanges {
   void mark(int y, int left, int right) {
     if (left < right) {
       const std::size_t row = static_cast<std::size_t>(y / tileHeight) * m_columns;
+      const std::uint8_t touched = rowsOf(y, y + 1);
       for (int column = left / tileWidth; column <= (right - 1) / tileWidth; ++column) {
-        m_isMarked[row + static_cast<std::size_t>(column)] = 1;
+        m_touchedRows[row + static_cast<std::size_t>(column)] |= touched;
         m_cover[row + static_cast<std::size_t>(column)] = 0;
       }
     }
@@ -36,9 +37,15 @@ class TileChanges {
   bool isCoveredBy(int column, int row, std::uint64_t cover) const {
     return m_cover[tileAt(column, row)] == cover;
   }
-  // The tile was drawn over: as a whole by this content, or partly (0). hasChanged: its pixels are not what
-  // they were.
-  void drawnOver(int column, int row, std::uint64_t cover, bool hasChanged);
+  // Rows of one tile, [top, bottom) of the picture and not empty, as bits.
+  static std::uint8_t rowsOf(int top, int bottom) {
+    const unsigned toEnd = (2U << ((bottom - 1) % tileHeight)) - 1;
+    const unsigned before = (1U << (top % tileHeight)) - 1;
+    return static_cast<std::uint8_t>(toEnd & ~before);
+  }
+  // The tile was drawn over: as a whole by this content, or partly (0). changedRows: those whose pixels are
+  // not what they were.
+  void drawnOver(int column, int row, std::uint64_t cover, std::uint8_t changedRows);
   // The tile's part of the picture.
   xplEdges edgesOf(int column, int row) const;
   void markAll();
@@ -50,6 +57,10 @@ class TileChanges {
   const std::vector<xplEdges>& takeChanged(const PixelMemory& memory);
 
  private:
+  static_assert(tileHeight <= 8, "the rows of a tile are the bits of a byte");
+
+  // The part of a tile in which these rows, at least one, lie.
+  xplEdges edgesOfRows(int column, int row, std::uint8_t rows) const;
   std::size_t tileAt(int column, int row) const {
     return static_cast<std::size_t>(row) * m_columns + static_cast<std::size_t>(column);
   }
@@ -58,7 +69,7 @@ class TileChanges {
   int m_height;
   std::size_t m_columns;
   std::size_t m_rows;
-  std::vector<std::uint8_t> m_isMarked;
+  std::vector<std::uint8_t> m_touchedRows;  // of each tile, since it was shown
   std::vector<std::uint64_t> m_cover;  // what each tile was last drawn over by; 0 where that is not known
   std::vector<std::uint64_t> m_shown;  // the hash of each tile; 0 where nothing was shown
   std::vector<xplEdges> m_changed;

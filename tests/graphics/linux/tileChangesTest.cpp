@@ -1,14 +1,11 @@
-// Which parts of a picture are sent to the display.
+// Which parts of a picture count as changed.
+#include <string>
 #include <vector>
 
 #include <gtest/gtest.h>
 
-#include "graphics/image.h"
 #include "graphics/linux/heapPixelMemory.h"
-#include "graphics/linux/memoryWindow.h"
 #include "graphics/linux/tileChanges.h"
-#include "graphics/window.h"
-#include "harness/privateFolders.h"
 
 namespace {
 
@@ -38,10 +35,19 @@ TEST_F(TileChangesTest, AtFirstEverythingIsNew) {
   EXPECT_EQ("", describe(changes.takeChanged(memory)));
 }
 
-TEST_F(TileChangesTest, APixelChangesItsTile) {
+TEST_F(TileChangesTest, APixelChangesItsRowOfTheTile) {
   changes.takeChanged(memory);
   write(199, 39, 5);
-  EXPECT_EQ("192,32-200,40 ", describe(changes.takeChanged(memory)));
+  EXPECT_EQ("192,39-200,40 ", describe(changes.takeChanged(memory)));
+  write(0, 8, 5);
+  EXPECT_EQ("0,8-32,9 ", describe(changes.takeChanged(memory)));
+}
+
+TEST_F(TileChangesTest, RowsFromTheFirstToTheLastThatWasWrittenToAreOnePart) {
+  changes.takeChanged(memory);
+  write(3, 10, 5);
+  write(4, 13, memory.pixels()[0]);
+  EXPECT_EQ("0,10-32,14 ", describe(changes.takeChanged(memory)));
 }
 
 TEST_F(TileChangesTest, NeighboursInARowAreOnePart) {
@@ -49,7 +55,7 @@ TEST_F(TileChangesTest, NeighboursInARowAreOnePart) {
   write(0, 0, 5);
   write(32, 7, 5);
   write(199, 3, 5);
-  EXPECT_EQ("0,0-64,8 192,0-200,8 ", describe(changes.takeChanged(memory)));
+  EXPECT_EQ("0,0-64,8 192,3-200,4 ", describe(changes.takeChanged(memory)));
 }
 
 TEST_F(TileChangesTest, WhatIsDrawnOverAndPutBackHasNotChanged) {
@@ -71,76 +77,6 @@ TEST(TileChangesOfNothing, AreNone) {
   HeapPixelMemory memory(0, 0);
   TileChanges changes(0, 0);
   EXPECT_TRUE(changes.takeChanged(memory).empty());
-}
-
-// Records what it is told to show.
-class RecordingWindow : public MemoryWindow {
- public:
-  using MemoryWindow::MemoryWindow;
-  void present(PixelMemory& memory, std::span<const xplEdges> parts) override {
-    events += "present " + describe({parts.begin(), parts.end()});
-    MemoryWindow::present(memory, parts);
-  }
-  void waitUntilShown() override { events += "wait "; }
-  bool takeContentLost() override { return std::exchange(isLost, false); }
-
-  std::string events;
-  bool isLost = false;
-};
-
-class ShownFrames : public PrivateFolders {
- protected:
-  ShownFrames() {
-    window.flush();
-    window.setPixel(0, 0, {0, 0, 0});  // waits for the first frame
-    native.events.clear();
-  }
-  RecordingWindow native{{0, 0, 130, 20}, {}};
-  xplWindow window{&native};
-};
-
-TEST_F(ShownFrames, AFrameThatIsTheSameIsNotSent) {
-  window.fillRect(xplRect<int>(0, 0, 130, 20), {0, 0, 0});
-  window.flush();
-  EXPECT_EQ("", native.events);
-}
-
-TEST_F(ShownFrames, OnlyTheChangedTileIsSentAndAwaitedBeforeTheNextDrawing) {
-  window.setPixel(128, 18, {1, 2, 3});
-  window.flush();
-  EXPECT_EQ("present 128,16-130,20 ", native.events);
-  window.setPixel(1, 1, {1, 2, 3});
-  EXPECT_EQ("present 128,16-130,20 wait ", native.events);
-}
-
-TEST_F(ShownFrames, EveryKindOfDrawingIsSeen) {
-  const auto seen = [this] {
-    window.flush();
-    const bool wasSent = native.events.find("present") != std::string::npos;
-    native.events.clear();
-    return wasSent;
-  };
-  window.fillRect(xplRect<int>(0, 0, 5, 5), {9, 9, 9});
-  EXPECT_TRUE(seen());
-  window.fillCircle(20, 10, 5, {9, 9, 9});
-  EXPECT_TRUE(seen());
-  window.drawLine(40, 0, 60, 10, 1, {9, 9, 9});
-  EXPECT_TRUE(seen());
-  window.drawText(70, 0, "M", nullptr);
-  EXPECT_TRUE(seen());
-  xplImage image;
-  image.initWithSizeAndColor(4, 4, {7, 7, 7});
-  image.drawOnWindow(window, 100, 0);
-  EXPECT_TRUE(seen());
-  image.setTransparentColor({1, 1, 1});
-  image.drawOnWindow(window, 110, 0);
-  EXPECT_TRUE(seen());
-}
-
-TEST_F(ShownFrames, AllIsSentAgainWhenTheWindowLostIt) {
-  native.isLost = true;
-  window.flush();
-  EXPECT_EQ("present 0,0-130,8 0,8-130,16 0,16-130,20 ", native.events);
 }
 
 }  // namespace
