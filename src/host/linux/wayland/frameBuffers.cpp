@@ -2,11 +2,14 @@
 #include "host/linux/wayland/frameBuffers.h"
 
 #include <algorithm>
+#include <climits>
 
 #include "host/linux/wayland/pictureParts.h"
 
 FrameBuffers::FrameBuffers(wl_shm* sharedMemory, const xplEdges& place)
-    : m_sharedMemory(sharedMemory), m_place(place) {
+    : m_sharedMemory(sharedMemory),
+      m_place(place),
+      m_changed(place.right - place.left, place.bottom - place.top) {
   m_buffers.reserve(most);
 }
 
@@ -16,7 +19,7 @@ bool FrameBuffers::hasRoom() const {
 }
 
 ShmBuffer* FrameBuffers::pick() {
-  // The one shown last needs nothing copied.
+  // The one shown last needs nothing more than the changes.
   if (m_shown != nullptr && !m_shown->isBeingRead()) {
     return m_shown;
   }
@@ -35,19 +38,20 @@ ShmBuffer* FrameBuffers::pick() {
   return nullptr;
 }
 
-xplEdges FrameBuffers::inBuffer(const xplEdges& part) const {
-  return {part.left - m_place.left, part.top - m_place.top, part.right - m_place.left,
-          part.bottom - m_place.top};
+void FrameBuffers::copyPart(const PixelMemory& picture, const xplEdges& part) {
+  const xplEdges there = commonPart({part.left + m_place.left, part.top + m_place.top,
+                                     part.right + m_place.left, part.bottom + m_place.top},
+                                    {0, 0, picture.width(), picture.height()});
+  copyPixels(picture, there, *m_drawing, there.left - m_place.left, there.top - m_place.top);
 }
 
-// Before the first frame there is nothing to bring: new buffers are black.
-void FrameBuffers::bringUpToDate(const xplEdges& tile) {
-  if (m_shown != nullptr) {
-    copyPixels(*m_shown, tile, *m_drawing, tile.left, tile.top);
-  }
+// It comes from the picture, and not from the buffer that is shown: most of it has just been drawn and is
+// near, while the other was read by the compositor since.
+void FrameBuffers::bringUpToDate(const PixelMemory& picture) {
+  m_drawing->outdated().takeAll([&](const xplEdges& tile) { copyPart(picture, tile); });
 }
 
-bool FrameBuffers::draw(const PixelMemory& picture, const std::vector<xplEdges>& parts) {
+bool FrameBuffers::draw(const PixelMemory& picture, std::span<const xplEdges> parts) {
   if (m_drawing == nullptr) {
     m_drawing = pick();
   }
@@ -55,29 +59,43 @@ bool FrameBuffers::draw(const PixelMemory& picture, const std::vector<xplEdges>&
     return false;
   }
   for (const xplEdges& part : parts) {
-    const xplEdges here = inBuffer(part);
-    if (m_drawing->outdated().isAnyMarked()) {
-      // What is drawn over needs not to be brought up to date before.
-      m_drawing->outdated().cover(here, [&](const xplEdges& tile) { bringUpToDate(tile); });
+    const xplEdges visible = commonPart(part, m_place);
+    if (isEmpty(visible)) {
+      continue;
     }
-    copyPixels(picture, part, *m_drawing, here.left, here.top);
+    const xplEdges here = {visible.left - m_place.left, visible.top - m_place.top,
+                           visible.right - m_place.left, visible.bottom - m_place.top};
+    copyPart(picture, here);
+    m_changed.add(here);
+    for (const auto& buffer : m_buffers) {
+      if (buffer.get() == m_drawing) {
+        buffer->outdated().cover(here);
+      } else {
+        buffer->outdated().mark(here);
+      }
+    }
+  }
+  bringUpToDate(picture);
+  if (m_shown == nullptr) {
+    m_changed.setWhole();
   }
   return true;
 }
 
-void FrameBuffers::show(wl_surface* surface, const std::vector<xplEdges>& changed) {
-  if (m_drawing == nullptr) {
+void FrameBuffers::tellChanges(wl_surface* surface) const {
+  if (wl_surface_get_version(surface) < WL_SURFACE_DAMAGE_BUFFER_SINCE_VERSION) {
+    wl_surface_damage(surface, 0, 0, INT_MAX, INT_MAX);
     return;
   }
-  m_drawing->outdated().takeAll([&](const xplEdges& tile) { bringUpToDate(tile); });
-  for (const auto& buffer : m_buffers) {
-    if (buffer.get() != m_drawing) {
-      for (const xplEdges& part : changed) {
-        buffer->outdated().mark(inBuffer(part));
-      }
-    }
+  for (const xplEdges& part : m_changed.parts()) {
+    wl_surface_damage_buffer(surface, part.left, part.top, part.right - part.left, part.bottom - part.top);
   }
+}
+
+void FrameBuffers::show(wl_surface* surface) {
   m_drawing->attachTo(surface);
+  tellChanges(surface);
   m_shown = m_drawing;
   m_drawing = nullptr;
+  m_changed.clear();
 }

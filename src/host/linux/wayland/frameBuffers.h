@@ -1,10 +1,12 @@
 // The buffers of one surface: a frame is drawn into one that the compositor does not read, and made complete
-// with what the frames before it showed.
+// with what has changed since that one was shown.
 #pragma once
 
 #include <memory>
+#include <span>
 #include <vector>
 
+#include "host/linux/wayland/changedParts.h"
 #include "host/linux/wayland/shmBuffer.h"
 
 class FrameBuffers {
@@ -19,17 +21,21 @@ class FrameBuffers {
 
   // Whether a frame could be drawn now: the compositor leaves one of the buffers to us, or one can be added.
   bool hasRoom() const;
-  // Copies these parts of the picture, which must lie in it and in the place. False, and nothing is done,
-  // where the compositor reads all buffers or there is no memory.
-  bool draw(const PixelMemory& picture, const std::vector<xplEdges>& parts);
-  // Shows what was drawn since the last call, with the surface's next commit; these parts of the picture, in
-  // the place, are all that may differ from the last frame. Nothing where nothing was drawn.
-  void show(wl_surface* surface, const std::vector<xplEdges>& changed);
+  // Takes over these parts of the picture, which are all that has changed since the last call. False, and
+  // nothing is done, where the compositor reads all buffers or there is no memory.
+  bool draw(const PixelMemory& picture, std::span<const xplEdges> parts);
+  // Whether there is something to show: what was drawn since, and at first all.
+  bool hasChanges() const { return !m_changed.isEmpty(); }
+  // Shows that with the surface's next commit. There must be something.
+  void show(wl_surface* surface);
 
  private:
   ShmBuffer* pick();
-  xplEdges inBuffer(const xplEdges& part) const;
-  void bringUpToDate(const xplEdges& tile);
+  // Copies a part, in the buffer's coordinates, as far as it lies on the picture.
+  void copyPart(const PixelMemory& picture, const xplEdges& part);
+  // Copies what the buffer has missed.
+  void bringUpToDate(const PixelMemory& picture);
+  void tellChanges(wl_surface* surface) const;
 
   // A compositor reads one, or the last and the next for a moment. More would be a compositor that returns
   // none.
@@ -40,4 +46,5 @@ class FrameBuffers {
   std::vector<std::unique_ptr<ShmBuffer>> m_buffers;
   ShmBuffer* m_shown = nullptr;    // the last that was shown
   ShmBuffer* m_drawing = nullptr;  // drawn into since; it may be the one shown last
+  ChangedParts m_changed;          // between these two
 };

@@ -17,32 +17,6 @@ bool areSame(const xplEdges& one, const xplEdges& other) {
          one.bottom == other.bottom;
 }
 
-void addParts(std::vector<xplEdges>& parts, std::span<const xplEdges> added, const xplEdges& all) {
-  if (parts.size() + added.size() > mostParts) {
-    parts.assign(1, all);
-  } else {
-    parts.insert(parts.end(), added.begin(), added.end());
-  }
-}
-
-void joinBelow(std::vector<xplEdges>& parts) {
-  std::sort(parts.begin(), parts.end(), [](const xplEdges& a, const xplEdges& b) {
-    return a.left != b.left ? a.left < b.left : a.right != b.right ? a.right < b.right : a.top < b.top;
-  });
-  std::size_t last = 0;
-  for (std::size_t i = 1; i < parts.size(); ++i) {
-    xplEdges& above = parts[last];
-    if (parts[i].left == above.left && parts[i].right == above.right && parts[i].top <= above.bottom) {
-      above.bottom = std::max(above.bottom, parts[i].bottom);
-    } else {
-      parts[++last] = parts[i];
-    }
-  }
-  if (!parts.empty()) {
-    parts.resize(last + 1);
-  }
-}
-
 void copyPixels(const PixelMemory& from, const xplEdges& part, PixelMemory& to, int x, int y) {
   if (isEmpty(part)) {
     return;

@@ -2,7 +2,6 @@
 #include "host/linux/wayland/saverSurface.h"
 
 #include <algorithm>
-#include <climits>
 #include <cmath>
 
 #include "host/linux/wayland/pictureParts.h"
@@ -33,7 +32,6 @@ SaverSurface::SaverSurface(const WaylandGlobals& globals, const Place& place, co
   if (globals.viewporter() != nullptr && place.scale != 1) {
     m_viewport.reset(wp_viewporter_get_viewport(globals.viewporter(), m_surface.get()));
   }
-  m_changed.reserve(mostParts);
   m_role = makeRole(m_surface.get(), *this);
   // Without a buffer yet: the compositor answers with a size.
   wl_surface_commit(m_surface.get());
@@ -60,17 +58,16 @@ void SaverSurface::hearSize(int width, int height) {
 
 void SaverSurface::renewBuffers() {
   if (m_buffers && !m_isWholeNew) {
-    m_former.emplace(std::move(*m_buffers));
+    m_former = std::move(m_buffers);
   }
   const xplEdges& usual = m_place.onPicture;
   m_shown = {usual.left, usual.top,
              usual.left + pixelsOf(m_width, m_place.width, usual.right - usual.left, m_place.scale),
              usual.top + pixelsOf(m_height, m_place.height, usual.bottom - usual.top, m_place.scale)};
-  m_buffers.emplace(m_sharedMemory, m_shown);
+  m_buffers = std::make_unique<FrameBuffers>(m_sharedMemory, m_shown);
   if (m_viewport) {
     wp_viewport_set_destination(m_viewport.get(), m_width, m_height);
   }
-  m_changed.clear();
   m_isWholeNew = true;
   m_isContentLost = true;
 }
@@ -80,54 +77,22 @@ bool SaverSurface::wantsFrame() const {
 }
 
 void SaverSurface::draw(const PixelMemory& picture, std::span<const xplEdges> parts) {
-  if (!m_buffers) {
-    return;
-  }
-  const xplEdges shown = commonPart(m_shown, {0, 0, picture.width(), picture.height()});
-  m_visible.clear();
-  for (const xplEdges& part : parts) {
-    const xplEdges visible = commonPart(part, shown);
-    if (!isEmpty(visible)) {
-      m_visible.push_back(visible);
-    }
-  }
-  if (m_visible.empty() && !m_isWholeNew) {
-    return;
-  }
-  if (!m_buffers->draw(picture, m_visible)) {
+  if (m_buffers && !m_buffers->draw(picture, parts)) {
     m_isContentLost = true;
-  } else if (m_isWholeNew) {
-    m_changed.assign(1, m_shown);
-  } else {
-    addParts(m_changed, m_visible, m_shown);
   }
 }
 
 void SaverSurface::commit() {
   static const wl_callback_listener listener{noteFrameWanted};
-  if (m_changed.empty() || m_frameWanted || m_isClosed || !m_buffers) {
+  if (!m_buffers || !m_buffers->hasChanges() || m_frameWanted || m_isClosed) {
     return;
   }
-  joinBelow(m_changed);
-  m_buffers->show(m_surface.get(), m_changed);
-  tellChanges();
+  m_buffers->show(m_surface.get());
   m_frameWanted.reset(wl_surface_frame(m_surface.get()));
   wl_callback_add_listener(m_frameWanted.get(), &listener, &m_frameWanted);
   wl_surface_commit(m_surface.get());
-  m_changed.clear();
   m_isWholeNew = false;
   m_former.reset();
-}
-
-void SaverSurface::tellChanges() {
-  if (wl_surface_get_version(m_surface.get()) < WL_SURFACE_DAMAGE_BUFFER_SINCE_VERSION) {
-    wl_surface_damage(m_surface.get(), 0, 0, INT_MAX, INT_MAX);
-    return;
-  }
-  for (const xplEdges& part : m_changed) {
-    wl_surface_damage_buffer(m_surface.get(), part.left - m_shown.left, part.top - m_shown.top,
-                             part.right - part.left, part.bottom - part.top);
-  }
 }
 
 int SaverSurface::Place::pictureX(double x) const {

@@ -3,10 +3,8 @@
 
 #include <functional>
 #include <memory>
-#include <optional>
 #include <span>
 #include <utility>
-#include <vector>
 
 #include "host/linux/wayland/frameBuffers.h"
 #include "host/linux/wayland/surfaceRole.h"
@@ -51,7 +49,6 @@ class SaverSurface : private SurfaceRoleEvents {
   void hearClosing() override { m_isClosed = true; }
   // Gives it buffers of its present size, and the compositor the whole content anew.
   void renewBuffers();
-  void tellChanges();
 
   wl_shm* m_sharedMemory;
   Place m_place;
@@ -61,12 +58,10 @@ class SaverSurface : private SurfaceRoleEvents {
   Proxy<wl_callback> m_frameWanted;  // until the compositor wants another frame
   int m_width = 0;                   // logical pixels, as the compositor gave them; 0 before
   int m_height = 0;
-  xplEdges m_shown;                       // what it shows of the picture, in its pixels
-  std::optional<FrameBuffers> m_buffers;  // once there is a size
-  std::optional<FrameBuffers> m_former;   // what is shown until the first frame of another size
-  std::vector<xplEdges> m_visible;        // room for the parts that draw() shows
-  std::vector<xplEdges> m_changed;        // drawn and not shown yet, in pixels of the picture
-  bool m_isWholeNew = false;              // nothing of the buffers' size was shown yet
+  xplEdges m_shown;                         // what it shows of the picture, in its pixels
+  std::unique_ptr<FrameBuffers> m_buffers;  // null until there is a size
+  std::unique_ptr<FrameBuffers> m_former;   // what is shown until the first frame of another size
+  bool m_isWholeNew = false;                // nothing of the buffers' size was shown yet
   bool m_isContentLost = false;
   bool m_isClosed = false;
 };

@@ -2,6 +2,7 @@
 #include "host/linux/wayland/tileMarks.h"
 
 #include <algorithm>
+#include <bit>
 
 #include "graphics/linux/tileChanges.h"
 
@@ -41,17 +42,44 @@ xplEdges TileMarks::edgesOf(int column, int row) const {
           std::min(top + tileHeight, m_height)};
 }
 
+xplEdges TileMarks::edgesOfRows(int column, int row, std::uint8_t rows) const {
+  const xplEdges edges = edgesOf(column, row);
+  const int top = row * tileHeight - m_offsetY;
+  return {edges.left, std::max(top + std::countr_zero(rows), edges.top), edges.right,
+          std::min(top + std::bit_width(rows), edges.bottom)};
+}
+
+std::uint8_t TileMarks::rowsIn(const xplEdges& part, int row) const {
+  const int top = row * tileHeight;
+  return TileChanges::rowsOf(std::max(m_offsetY + part.top, top),
+                             std::min(m_offsetY + part.bottom, top + tileHeight));
+}
+
 void TileMarks::mark(const xplEdges& part) {
   for (int row = rowOf(part.top); row <= rowOf(part.bottom - 1); ++row) {
+    const std::uint8_t rows = rowsIn(part, row);
     for (int column = columnOf(part.left); column <= columnOf(part.right - 1); ++column) {
       std::uint8_t& mark = m_marks[at(column, row)];
       m_marked += mark == 0 ? 1 : 0;
-      mark = 1;
+      mark |= rows;
+    }
+  }
+}
+
+void TileMarks::cover(const xplEdges& part) {
+  for (int row = rowOf(part.top); m_marked > 0 && row <= rowOf(part.bottom - 1); ++row) {
+    const std::uint8_t rows = rowsIn(part, row);
+    for (int column = columnOf(part.left); column <= columnOf(part.right - 1); ++column) {
+      std::uint8_t& mark = m_marks[at(column, row)];
+      const xplEdges tile = edgesOf(column, row);
+      if (mark != 0 && part.left <= tile.left && part.right >= tile.right) {
+        mark = static_cast<std::uint8_t>(mark & ~rows);
+        m_marked -= mark == 0 ? 1 : 0;
+      }
     }
   }
 }
 
 void TileMarks::markAll() {
-  std::fill(m_marks.begin(), m_marks.end(), std::uint8_t{1});
-  m_marked = m_marks.size();
+  mark({0, 0, m_width, m_height});
 }
