@@ -196,12 +196,4 @@ TEST_F(MessagesPageTest, ThousandsOfMessagesAreShown) {
   EXPECT_EQ(inFile("messagesCount"), "5000");
 }
 
-TEST(LimitedText, CutsNoLetterInTwo) {
-  const QString moon = QString::fromUtf8("🌙");  // two UTF-16 units
-  const QString text = QString(static_cast<int>(maxMessageCharacters) - 1, 'a') + moon;
-  EXPECT_EQ(limitedText(text), std::string(maxMessageCharacters - 1, 'a'));
-  EXPECT_EQ(limitedText(text.mid(1)), std::string(maxMessageCharacters - 2, 'a') + "🌙");
-  EXPECT_EQ(limitedText(""), "");
-}
-
 }  // namespace
