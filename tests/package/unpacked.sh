@@ -27,7 +27,7 @@ as_daemons_start_it() {
   local command
   read -ra command < <(sed -n 's/^Exec=//p' "$root/usr/share/applications/screensavers/lunaria.desktop")
   lunaria=$root${command[0]}
-  start_window 200x150+0+0
+  start_window 640x480+0+0
   XSCREENSAVER_WINDOW=$window start_and_see "$window" "${command[@]:1}"
   check "in a daemon's window: frames advance" frames_advance "$window"
   end_saver

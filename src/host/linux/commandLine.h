@@ -10,7 +10,7 @@
 struct HostRequest {
   enum class Mode {
     fullRun,         // over the whole virtual screen
-    foreignRun,      // the full run inside a window that another program owns
+    foreignRun,      // the full run inside a window that another program owns; the preview in a small one
     preview,         // the preview inside such a window
     ordinaryWindow,  // the full run in a window of our own, to try it out
     configuration,

@@ -8,6 +8,7 @@
 #include "host/linux/measuredRun.h"
 #include "host/linux/messagePump.h"
 #include "host/windowProcedure.h"
+#include "support/linux/applicationLinux.h"
 #include "support/log.h"
 
 namespace {
@@ -36,11 +37,15 @@ struct ClosingLine {
 
 }  // namespace
 
-void runSaver(SaverDisplay& display, StopSignals& signals, const HostRequest& request) {
+void runSaver(SaverDisplay& display, StopSignals& signals, const std::string& program,
+              const HostRequest& request) {
   const auto stage = display.open(request, signals);
   if (stage == nullptr) {
     return;
   }
+  HostRequest known = request;
+  known.mode = stage->mode();
+  xplAppLinux::setArguments(canonicalArguments(program, known));
   MessagePump pump(&stage->window(), stage->kind(), ScreenSaverProc);
   {
     const MeasuredRun measured(request.hasStatistics, pump);

@@ -10,7 +10,8 @@ Without an option it covers the whole screen until a key, a button or the pointe
 
   /s, --fullscreen      the same
   --root                run in the window that XSCREENSAVER_WINDOW names, as screen saver daemons ask for;
-                        where that is not set, on the root window. Input does not end it
+                        where that is not set, on the root window. Input does not end it. In a window of at most
+                        half of every monitor's area it is the preview
   /p ID, --preview ID, --window-id ID
                         the preview, in the window of this id (decimal, or hexadecimal with 0x).
                         Wins over --root

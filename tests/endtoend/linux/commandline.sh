@@ -15,17 +15,18 @@ refused() {
 unset DISPLAY
 "$lunaria" --help >"$work/out" 2>"$work/err"; same "help without a display: exit code" 0 $?
 check "help lists the options" grep -q -- '--window-id ID' "$work/out"
-# says_what_is_recorded NAME FILE: in the words that the other texts use, too.
-says_what_is_recorded() {
+# says_it NAME FILE: what is recorded, and when --root is the preview, in the words that the other texts use, too.
+says_it() {
   local text part; text=$(tr -d '`' <"$2" | tr -s ' \n' ' ')
-  for part in 'full run of more than 23 seconds adds one line (times, version, build) to ' \
+  for part in "In a window of at most half of every monitor's area it is the preview" \
+    'full run of more than 23 seconds adds one line (times, version, build) to ' \
     'nothing leaves the machine. The setting sisableTelemetry=yes stops that.'; do
     case "$text" in *"$part"*) ok "$1: $part" ;; *) not_ok "$1: $part" ;; esac
   done
 }
-says_what_is_recorded help "$work/out"
-says_what_is_recorded README "$sources/README.md"
-says_what_is_recorded "man page" "$sources/docs/lunaria.1"
+says_it help "$work/out"
+says_it README "$sources/README.md"
+says_it "man page" "$sources/docs/lunaria.1"
 same "help: nothing on standard error" "" "$(cat "$work/err")"
 same "version" "lunaria 5.4.1" "$("$lunaria" --version)"
 refused "unknown option" usage "unknown option '--nonsense'" --nonsense

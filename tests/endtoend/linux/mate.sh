@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# MATE's screen saver finds Lunaria among its themes, shows it and takes it away.
+# MATE's screen saver finds Lunaria among its themes, shows it and takes it away; its preferences show the preview.
 # It runs as an ordinary user, with the package's files in their places in a name space of its own, which only the super
 # user can make: MATE looks for themes nowhere else.
 if [ "$(id -u)" -eq 0 ] && [ -z "${LUNARIA_OWN_MOUNTS:-}" ] && [ -d /usr/libexec/xscreensaver ] &&
@@ -66,3 +66,24 @@ until_true 10 shows_sky root
 kill -TERM "$daemon"
 ends "$process"
 at_most "it ends with the daemon (ms)" 500 "$milliseconds"
+
+# The preferences show it in a pane, started by the same command.
+if ! command -v mate-screensaver-preferences >/dev/null; then
+  echo "skipped: no mate-screensaver-preferences"
+  exit 0
+fi
+rm -f "$log"
+start_as_user mate-screensaver-preferences >"$work/preferences.log" 2>&1 &
+preferences=$!
+servers+=("$preferences")
+check "the preferences start it" until_true 30 child "$preferences" lunaria
+process=$(child "$preferences" lunaria)
+same "by the command of the theme" "$command " "$(arguments "$process")"
+window=$(variable "$process" XSCREENSAVER_WINDOW)
+check "their pane shows the sky" until_true 10 shows_sky "$window"
+check "its frames advance" frames_advance "$window"
+[ -z "${LUNARIA_SHOTS:-}" ] || import -window root "$LUNARIA_SHOTS/mate-preferences.png"
+check "it is the preview, since the pane is small" logged "Creating TnoctisWorld with monitorId =-1"
+kill -TERM "$preferences"
+ends "$process"
+at_most "it ends with the preferences (ms)" 500 "$milliseconds"

@@ -75,11 +75,27 @@ check "its frames advance" frames_advance "$window"
 end_saver
 end_window
 
+# The pane of a settings program that starts the saver in the daemon's words.
 start_window 300x180+20+30
+export XSCREENSAVER_WINDOW=$window
+check "a small window in the environment shows the sky" start_and_see "$window" --root
+check "small: it is the preview" logged "Creating TnoctisWorld with monitorId =-1"
+check "small: by the canonical argument" logged "arg[1]:/p"
+check "small: with the window's decimal id" logged "arg[2]:$((window))"
+same "small: one line says why" 1 "$(grep -c 'window of 300x180 is small for this screen: it shows the preview' "$log")"
+check "small: frames advance" frames_advance "$window"
+end_saver
+same "small: SIGTERM ends it" 0 "$code"
+at_most "small: within 100 ms" 100 "$milliseconds"
+same "small: the log is complete" $'Info>\txplLog closing' "$(tail -1 "$log")"
+end_window
+
+start_window 600x500+20+30
 export XSCREENSAVER_WINDOW=$window
 check "the full run in the environment's window shows the sky" start_and_see "$window" --root
 check "it is the full run" logged "Creating TnoctisWorld with monitorId =0"
 check "by the canonical argument" logged "arg[1]:/s"
+same "nothing is said of a preview" 0 "$(grep -c 'shows the preview' "$log")"
 xdotool mousemove 100 100 click 1 mousemove 150 60
 check "input ends nothing" frames_advance "$window"
 end_saver HUP
@@ -89,6 +105,7 @@ unset XSCREENSAVER_WINDOW
 end_window
 
 check "the root window shows the sky" start_and_see root --root
+check "the root window has the full run" logged "Creating TnoctisWorld with monitorId =0"
 check "its frames advance" frames_advance root
 end_saver
 same "and it ends" 0 "$code"

@@ -46,17 +46,18 @@ int orTellWhyNot(const std::function<void()>& run) {
 }
 
 // The log lives from here on: everything that follows finds it.
-int startSaver(const HostRequest& request) {
+int startSaver(const std::string& program, const HostRequest& request) {
   const ConnectedDisplay connected = connectDisplay(request, DisplayEnvironment::ofProcess());
   StopSignals signals;
   const xplLog log("Lunaria", true, true);
   if (!connected.note.empty()) {
     logWarning().add(connected.note);
   }
-  return orTellWhyNot([&] { runSaver(*connected.display, signals, request); });
+  return orTellWhyNot([&] { runSaver(*connected.display, signals, program, request); });
 }
 
-int startConfiguration() {
+int startConfiguration(const std::string& program, const HostRequest& request) {
+  xplAppLinux::setArguments(canonicalArguments(program, request));
   const xplLog log("Lunaria", true, true);
   return orTellWhyNot(runConfiguration);
 }
@@ -75,7 +76,6 @@ int tellDiagnosis() {
 }
 
 int start(const std::string& program, const HostRequest& request) {
-  xplAppLinux::setArguments(canonicalArguments(program, request));
   switch (request.mode) {
     case HostRequest::Mode::help:
       std::cout << usageText();
@@ -86,13 +86,13 @@ int start(const std::string& program, const HostRequest& request) {
     case HostRequest::Mode::doctor:
       return tellDiagnosis();
     case HostRequest::Mode::configuration:
-      return startConfiguration();
+      return startConfiguration(program, request);
     case HostRequest::Mode::installXScreenSaver:
       return change([] { return installInXScreenSaver(xplFileSystemMini::applicationFullPath()); });
     case HostRequest::Mode::uninstallXScreenSaver:
       return change(uninstallFromXScreenSaver);
     default:
-      return startSaver(request);
+      return startSaver(program, request);
   }
 }
 

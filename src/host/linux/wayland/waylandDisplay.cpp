@@ -13,10 +13,12 @@ class WaylandStage : public SaverStage {
                const HostRequest& request)
       : m_connection(connection),
         m_globals(std::move(globals)),
-        m_window(m_connection, *m_globals, request) {}
+        m_window(m_connection, *m_globals, request),
+        m_mode(request.mode) {}
 
   xpliNativeWindow& window() override { return m_window; }
   WindowKind kind() const override { return m_window.kind(); }
+  HostRequest::Mode mode() const override { return m_mode; }
   std::unique_ptr<DisplayLink> show(MessagePump& pump, StopSignals& signals) override {
     return std::make_unique<WaylandLink>(m_connection, *m_globals, signals, m_window, pump);
   }
@@ -27,6 +29,7 @@ class WaylandStage : public SaverStage {
   WaylandConnection& m_connection;
   std::unique_ptr<WaylandGlobals> m_globals;
   WaylandWindow m_window;
+  HostRequest::Mode m_mode;
 };
 
 }  // namespace

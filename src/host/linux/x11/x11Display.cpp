@@ -6,7 +6,9 @@
 
 #include "host/linux/hostFailure.h"
 #include "host/linux/x11/makeX11Window.h"
+#include "host/linux/x11/smallWindow.h"
 #include "host/linux/x11/x11Link.h"
+#include "support/log.h"
 
 namespace {
 
@@ -15,10 +17,17 @@ class X11Stage : public SaverStage {
   X11Stage(X11Connection& connection, X11Facts facts, const HostRequest& request)
       : m_connection(connection),
         m_facts(std::move(facts)),
-        m_window(makeX11Window(connection, m_facts, request)) {}
+        m_window(makeX11Window(connection, m_facts, request)),
+        m_mode(modeIn(m_facts, request.mode)) {
+    if (m_mode != request.mode) {
+      logInfo().addf("The window of %dx%d is small for this screen: it shows the preview",
+                     m_facts.window->width, m_facts.window->height);
+    }
+  }
 
   xpliNativeWindow& window() override { return *m_window; }
   WindowKind kind() const override { return m_window->kind(); }
+  HostRequest::Mode mode() const override { return m_mode; }
   std::unique_ptr<DisplayLink> show(MessagePump& pump, StopSignals& signals) override {
     return std::make_unique<X11Link>(m_connection, signals, *m_window, pump, m_facts);
   }
@@ -28,6 +37,7 @@ class X11Stage : public SaverStage {
   X11Connection& m_connection;
   X11Facts m_facts;
   std::unique_ptr<X11Window> m_window;
+  HostRequest::Mode m_mode;
 };
 
 }  // namespace

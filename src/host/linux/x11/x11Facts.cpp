@@ -63,6 +63,7 @@ std::optional<X11Facts::ForeignWindow> askAboutWindow(X11Connection& connection,
   }
   X11Facts::ForeignWindow window;
   window.id = id;
+  window.isRoot = id == connection.screen().root;
   window.visual = attributes->visual;
   window.depth = geometry->depth;
   window.canBeDrawnOn = attributes->_class == XCB_WINDOW_CLASS_INPUT_OUTPUT;

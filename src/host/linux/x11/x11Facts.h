@@ -18,6 +18,7 @@ struct X11Facts {
     xcb_visualid_t visual = 0;
     int depth = 0;
     bool canBeDrawnOn = false;
+    bool isRoot = false;
     int x = 0, y = 0;  // in screen coordinates
     int width = 0, height = 0;
   };
