@@ -12,7 +12,7 @@ test_packages=("${package_packages[@]}" "${windows_packages[@]}" googletest libb
   dbus-daemon python3-dbusmock pulseaudio pulseaudio-utils desktop-file-utils
   lintian appstream libxml2-utils man-db fakeroot xscreensaver-data xscreensaver)
 # Tests that miss one of these say so and pass.
-optional_test_packages=(sway swaybg weston grim wtype mate-screensaver xserver-xorg-core
+optional_test_packages=(sway swaybg weston grim wtype qt6-wayland mate-screensaver xserver-xorg-core
   xserver-xorg-video-dummy)
 
 # missing_packages PACKAGE...: prints those that are not installed.

@@ -34,6 +34,8 @@ same sky.")
 # Its settings, icon and saver are of one version.
 set(CPACK_DEBIAN_LUNARIA-CONFIGURE_PACKAGE_NAME lunaria-configure)
 set(CPACK_DEBIAN_LUNARIA-CONFIGURE_PACKAGE_DEPENDS "lunaria (= ${PROJECT_VERSION})")
+# Where there is no X server, the toolkit needs it.
+set(CPACK_DEBIAN_LUNARIA-CONFIGURE_PACKAGE_RECOMMENDS qt6-wayland)
 set(CPACK_DEBIAN_LUNARIA-CONFIGURE_DESCRIPTION "settings of the screen saver Lunaria
 Chooses what the night sky shows and plays: the moon, the messages, the
 background, the sounds, the quotations, and what keeps the computer awake.")

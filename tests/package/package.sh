@@ -59,6 +59,7 @@ done
 
 check "the fonts come with it" depends_on "$main" fonts-liberation
 same "it recommends its settings" lunaria-configure "$(field "$main" Recommends)"
+same "which recommend what shows them on Wayland" qt6-wayland "$(field "$sheet" Recommends)"
 check "which belong to the same version" grep -qF "lunaria (= $version)" <(field "$sheet" Depends)
 # everything_behind PACKAGE: what its dependencies pull in here, where all of them are installed.
 everything_behind() {

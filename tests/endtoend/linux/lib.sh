@@ -98,6 +98,21 @@ end_saver() {
   saver=
 }
 
+# The saver's time on the processor in nanoseconds, without the threads of sounds and reports.
+busy() { cut -d' ' -f1 "/proc/$saver/task/$saver/schedstat"; }
+# idles NAME: next to no time goes into the saver, in two seconds of three times two, since a busy machine may disturb
+# it. Where it is drawn, a quiet one takes ten times the limit.
+idles() {
+  local before share
+  for _ in 1 2 3; do
+    before=$(busy)
+    sleep 2 # the rest is what is tried
+    share=$((($(busy) - before) / 2000))
+    [ "$share" -gt 3000 ] || break
+  done
+  at_most "$1: millionths of the processor" 3000 "$share"
+}
+
 # Colours that a window shows, and a word that changes with every frame.
 colours() { "$helper" pixels "$1" | cut -d' ' -f2; }
 frame() { "$helper" pixels "$1" | cut -d' ' -f1; }

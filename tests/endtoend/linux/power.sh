@@ -20,14 +20,11 @@ start_behind() {
   saver=$!
   until_true 10 shows_sky "$window" && frames_advance "$window"
 }
-# The saver's time on the processor in nanoseconds, without the threads of sounds and reports.
-busy() { cut -d' ' -f1 "/proc/$saver/task/$saver/schedstat"; }
 # rests WINDOW NAME: no frame comes for two seconds, and next to no time goes into the rest.
 rests() {
-  local seen before
-  seen=$(frame "$1"); before=$(busy)
-  ! until_true 2 frame_is_not "$1" "$seen"; same "$2: nothing is drawn" 0 $?
-  at_most "$2: millionths of the processor" 3000 $((($(busy) - before) / 2000))
+  local seen; seen=$(frame "$1")
+  idles "$2"
+  same "$2: nothing is drawn" "$seen" "$(frame "$1")"
 }
 rested() { logged "The display is switched off: drawing waits"; }
 milliseconds_until_frame() {
@@ -100,9 +97,7 @@ until_true 10 shows_sky root
 saver_window=$(xwininfo -root -children | awk '/"Lunaria"/ {print $1}')
 xdotool windowunmap "$saver_window"
 check "a window that is put away: it is noticed" until_true 2 covered
-before=$(busy)
-sleep 2 # the rest is what is tried
-at_most "a window that is put away: millionths of the processor" 3000 $((($(busy) - before) / 2000))
+idles "a window that is put away"
 xdotool windowmap "$saver_window"
 check "brought back, it goes on" frames_advance "$saver_window"
 end_saver

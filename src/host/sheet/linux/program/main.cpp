@@ -24,7 +24,7 @@ Shows the settings of the screen saver Lunaria, and writes them when OK is press
   --help     show this text
   --version  show the version
 
-DISPLAY names the display.
+WAYLAND_DISPLAY or DISPLAY names the display.
 )";
 
 // The toolkit's words go into the log. One that ends the program is told to whoever started it, who would
@@ -36,7 +36,8 @@ void takeToolkitMessage(QtMsgType type, const QMessageLogContext&, const QString
   }
   logError().add(text.toStdString());
   std::cerr << programFile
-            << ": cannot show the settings: check that DISPLAY names a running X server that lets you in ("
+            << ": cannot show the settings: check that DISPLAY names a running X server that lets you in, or "
+               "on Wayland install qt6-wayland ("
             << text.simplified().toStdString() << ")" << std::endl;
   std::_Exit(EXIT_FAILURE);
 }
