@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # lunaria --doctor: what it says on systems where all is well, and where something is not.
 here=$(cd "$(dirname "$0")" && pwd)
-. "$here/lib.sh"
+. "$here/waylandLib.sh"
 unset WAYLAND_DISPLAY XDG_CURRENT_DESKTOP DISPLAY
 # A process of the name by which XScreenSaver is known, and a bus on which logind agrees.
 mkdir "$work/bin"
@@ -48,6 +48,7 @@ check "the sound" says "Sound works"
 check "the sleep" says "The computer can be kept awake: logind agrees."
 check "the settings" says "$settings"
 same "lines of prose are no longer than 80" 0 "$(grep -vE '^ {11}/|^  Cure:' "$work/out" | grep -c '.\{81\}')"
+check "there is no log yet" says "There is no log yet. The next run writes it, here: $log"
 check "it leaves no log" test ! -e "$log"
 check "and makes no settings" test ! -e "$settings"
 echo list >&"${logind[1]}"; read -r answer <&"${logind[0]}"
@@ -70,6 +71,10 @@ doctor
 same "XScreenSaver switched off: exit code" 1 "$code"
 same "XScreenSaver switched off: one problem" 1 "$(problems)"
 check "XScreenSaver switched off: it says so" says "switched off in its settings. Cure: lunaria --install-xscreensaver"
+printf 'mode: one\nselected: 0\nprograms: %s/gone/lunaria --root \\n\n' "$work" >"$HOME/.xscreensaver"
+doctor
+same "a program that is gone: one problem" 1 "$(problems)"
+check "a program that is gone" says "names a program that is not there or cannot be started: $work/gone/lunaria Cure: lunaria --install-xscreensaver"
 rm "$HOME/.xscreensaver"
 doctor
 check "no settings of XScreenSaver" says "Lunaria is not among the savers that it shows."
@@ -79,9 +84,26 @@ if pgrep -x xscreensaver >/dev/null; then
 else
   doctor
   check "no XScreenSaver that runs" says "XScreenSaver is installed, but does not run"
+  check "no XScreenSaver that runs: the cure" says "here. Cure: lunaria --install-xscreensaver; "
+  XDG_CURRENT_DESKTOP=XFCE doctor
+  check "none on Xfce" says "but its own; XScreenSaver is installed, but does not run. Cure: lunaria --install-xscreensaver; "
 fi
 start_daemon
 "$lunaria" --install-xscreensaver >/dev/null
+
+# xss-lock waits for the X server's own time; a process of its name and with Lunaria's is enough.
+(exec -a xss-lock tail -f /dev/null lunaria >/dev/null 2>&1) &
+lock=$!
+servers+=("$lock")
+until_true 5 grep -q '^xss-lock' "/proc/$lock/cmdline"
+xset s 420 0
+doctor
+check "xss-lock" says "xss-lock runs here and starts Lunaria after 7 minutes."
+xset s off
+doctor
+same "a display that never tells: one problem" 1 "$(problems)"
+check "a display that never tells" says "never to say that nobody is there. Cure: now and at each login: xset s 600 0"
+kill "$lock"; wait "$lock" 2>/dev/null
 
 # MATE's own screen saver, where its settings are installed; a process of its name is enough.
 export GSETTINGS_BACKEND=keyfile
@@ -156,10 +178,19 @@ listener.bind(sys.argv[1])
 listener.listen()
 print("ready", flush=True)
 sys.stdin.read()' "$work/silent"; }
+silent_pid=$silent_PID
 read -r answer <&"${silent[0]}"
 DBUS_SYSTEM_BUS_ADDRESS=unix:path=$work/silent doctor
 check "a bus that is silent" says "logind cannot be asked or refuses (no answer)"
 at_most "a bus that is silent is not waited for, in milliseconds" 6000 "$milliseconds"
-eval "exec ${silent[1]}>&-"
+eval "exec ${silent[1]}>&-"; wait "$silent_pid" 2>/dev/null
+# XScreenSaver runs, but in a Wayland session, where it cannot do its work.
+start_helper
+XDG_CURRENT_DESKTOP=sway doctor
+check "XScreenSaver on Wayland" says "cannot cover the screen in a Wayland session. Cure: install swayidle; at login start: swayidle -w"
+XDG_CURRENT_DESKTOP=GNOME doctor
+check "XScreenSaver on GNOME's Wayland" says "Wayland session. Cure: log in to an X11 session: XScreenSaver shows Lunaria there"
+end_helper
+unset WAYLAND_DISPLAY
 HOME='' XDG_CONFIG_HOME='' doctor
 check "without HOME it ends, too" test "$code" = 1

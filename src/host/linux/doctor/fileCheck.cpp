@@ -63,6 +63,12 @@ Finding lookAtSettings(SystemView& system, const std::string& path) {
           "mv " + quoted(path) + " " + quoted(path + ".old") + "   (and choose your settings anew)"};
 }
 
+Finding lookAtLog(SystemView& system, const std::string& path) {
+  const Finding found = lookAtFile(system, "The log of the last run", path);
+  const bool isNone = !found.isProblem() && system.file(path).kind == FileView::Kind::missing;
+  return isNone ? Finding{"There is no log yet. The next run writes it, here:\n" + path, ""} : found;
+}
+
 Finding lookForConfigure(SystemView& system) {
   return system.isInstalled("lunaria-configure")
              ? Finding{"The settings can be edited: lunaria --configure", ""}
@@ -76,6 +82,5 @@ Findings FileCheck::look(SystemView& system) {
   const OwnFiles files = system.ownFiles();
   return {lookAtSettings(system, files.settings), lookForConfigure(system),
           lookAtFile(system, "Your own quotations", files.quotes),
-          lookAtFile(system, "The record of use", files.usage),
-          lookAtFile(system, "The log of the last run", files.log)};
+          lookAtFile(system, "The record of use", files.usage), lookAtLog(system, files.log)};
 }

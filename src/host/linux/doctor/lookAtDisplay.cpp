@@ -25,6 +25,11 @@ std::string serverOf(const xcb_setup_t& setup) {
   return vendor.find("X.Org") == std::string::npos ? vendor : "X.Org " + versionOf(setup.release_number);
 }
 
+std::optional<int> saverSecondsOf(X11Connection& connection) {
+  const auto reply = connection.await<xcb_get_screen_saver_reply_t>(xcb_get_screen_saver(connection.get()));
+  return reply ? std::optional<int>(reply->timeout) : std::nullopt;
+}
+
 DisplayView lookAtX11() {
   DisplayView view;
   X11Connection connection;
@@ -41,6 +46,7 @@ DisplayView lookAtX11() {
   view.width = facts.screenWidth;
   view.height = facts.screenHeight;
   view.monitors = facts.monitors;
+  view.saverSeconds = saverSecondsOf(connection);
   return view;
 }
 

@@ -9,6 +9,7 @@
 
 #include "host/linux/doctor/boundedChild.h"
 #include "host/linux/doctor/lookAtDisplay.h"
+#include "host/linux/xscreensaver/saverPrograms.h"
 #include "services/telemetryController.h"
 #include "support/fileSystem.h"
 
@@ -53,6 +54,10 @@ bool RealSystem::isInstalled(const std::string& program) {
     isFound = canRun(xplFileSystemMini::joinPath(folder, program));
   }
   return isFound;
+}
+
+bool RealSystem::canXScreenSaverStart(const std::string& program) {
+  return xscreensaver::canStart(program);
 }
 
 std::optional<std::string> RealSystem::outputOf(const std::vector<std::string>& command) {

@@ -10,6 +10,7 @@ class RealSystem : public SystemView {
   DisplayView display() override;
   std::optional<std::string> runningProgram(const std::string& name) override;
   bool isInstalled(const std::string& program) override;
+  bool canXScreenSaverStart(const std::string& program) override;
   std::optional<std::string> outputOf(const std::vector<std::string>& command) override;
   std::optional<std::string> contentOf(const std::string& path) override;
   FileView file(const std::string& path) override;

@@ -38,6 +38,9 @@ constexpr std::array idlePrograms{
     IdleProgram{"xautolock", {"", ""}, "let xautolock start it: xautolock -time 10 -locker lunaria"},
 };
 
+constexpr char swayidleCure[] = "install swayidle; at login start: swayidle -w timeout 600 'lunaria &'";
+constexpr char x11Session[] = "log in to an X11 session";
+
 std::string inSmallLetters(std::string text) {
   std::transform(text.begin(), text.end(), text.begin(),
                  [](unsigned char letter) { return static_cast<char>(std::tolower(letter)); });
@@ -47,6 +50,29 @@ std::string inSmallLetters(std::string text) {
 // Whether XDG_CURRENT_DESKTOP, a list with colons, has this name.
 bool isDesktop(const std::string& list, const std::string& name) {
   return (":" + inSmallLetters(list) + ":").find(":" + name + ":") != std::string::npos;
+}
+
+bool isWayland(SystemView& system) {
+  return system.display().kind == DisplayView::Kind::wayland;
+}
+
+// The desktop's name where it is one that shows no savers but its own; else nullptr.
+const char* ownDesktopOf(SystemView& system) {
+  const std::string desktop = system.environment("XDG_CURRENT_DESKTOP").value_or("");
+  const auto* const own =
+      std::find_if(ownDesktops.begin(), ownDesktops.end(),
+                   [&](const OwnDesktop& candidate) { return isDesktop(desktop, candidate.name); });
+  return own != ownDesktops.end() ? own->shown : nullptr;
+}
+
+// xss-lock waits for the X server, which counts the time.
+Finding startsAfterServersTime(const std::string& name, const std::optional<int>& seconds) {
+  const std::string text = name + " runs here and starts Lunaria";
+  if (seconds == 0) {
+    return {text + ", but the display is set never to say that nobody is there.",
+            "now and at each login: xset s 600 0"};
+  }
+  return {text + (seconds ? saverTexts::after(roundedUpToMinutes(*seconds)) : "") + ".", ""};
 }
 
 std::optional<Finding> lookAtIdleProgram(SystemView& system, const IdleProgram& program) {
@@ -61,39 +87,74 @@ std::optional<Finding> lookAtIdleProgram(SystemView& system, const IdleProgram& 
       minutes = minutesUntilLunaria(system.contentOf(folder + "/" + name).value_or(""));
     }
   }
+  const std::string name = program.name;
   if (!minutes) {
-    return Finding{std::string(program.name) + " runs here, but does not start Lunaria.", program.cure};
+    return Finding{name + " runs here, but does not start Lunaria.", program.cure};
   }
-  return Finding{std::string(program.name) + " runs here and starts Lunaria" +
-                     (*minutes > 0 ? saverTexts::after(*minutes) : "") + ".",
-                 ""};
+  if (name == "xss-lock") {
+    return startsAfterServersTime(name, system.display().saverSeconds);
+  }
+  return Finding{
+      name + " runs here and starts Lunaria" + (*minutes > 0 ? saverTexts::after(*minutes) : "") + ".", ""};
 }
 
-Finding nobodyOn(SystemView& system, const std::string& desktop) {
-  const bool isWayland = system.display().kind == DisplayView::Kind::wayland;
-  for (const OwnDesktop& own : ownDesktops) {
-    if (isDesktop(desktop, own.name)) {
-      return {std::string(own.shown) + " locks the screen, but shows no screen savers but its own.",
-              isWayland ? "log in to an X11 session, and there: sudo apt install xscreensaver"
-                        : "sudo apt install xscreensaver && lunaria --install-xscreensaver"};
-    }
+// What XScreenSaver does with Lunaria where it runs on X11.
+Finding lookAtXScreenSaver(SystemView& system) {
+  const auto text = system.contentOf(system.homeFolder() + "/.xscreensaver");
+  const XScreenSaverSettings settings = readXScreenSaver(text.value_or(""));
+  const Finding shown = saverTexts::ofXScreenSaver(settings);
+  return shown.isProblem() || system.canXScreenSaverStart(settings.program)
+             ? shown
+             : saverTexts::ofMissingProgram(settings.program);
+}
+
+// The commands that bring Lunaria up through XScreenSaver, which does not run yet.
+std::string xscreensaverCure(SystemView& system) {
+  if (!system.isInstalled("xscreensaver")) {
+    return "sudo apt install xscreensaver && lunaria --install-xscreensaver";
   }
-  if (system.isInstalled("xscreensaver") && !isWayland) {
-    return {"XScreenSaver is installed, but does not run: nothing starts a screen saver here.",
-            "let your session start it at login: xscreensaver --no-splash"};
+  const std::string choose = lookAtXScreenSaver(system).isProblem() ? "lunaria --install-xscreensaver; " : "";
+  const std::string entry = "/usr/share/xscreensaver/xscreensaver.desktop";
+  if (system.file(entry).kind != FileView::Kind::file) {
+    return choose + "xscreensaver --no-splash &   (and let your session start that at login)";
   }
-  return {"Nothing starts a screen saver here.",
-          isWayland ? "install swayidle; at login start: swayidle -w timeout 600 'lunaria &'"
-                    : "sudo apt install xscreensaver && lunaria --install-xscreensaver"};
+  return choose + "mkdir -p ~/.config/autostart; cp " + entry + " ~/.config/autostart/; xscreensaver &";
+}
+
+Finding xscreensaverOnWayland(SystemView& system) {
+  const std::string text = "XScreenSaver runs here, but cannot cover the screen in a Wayland session.";
+  if (ownDesktopOf(system) == nullptr) {
+    return {text, swayidleCure};
+  }
+  return {text, std::string(x11Session) + (lookAtXScreenSaver(system).isProblem()
+                                               ? ", and there: lunaria --install-xscreensaver"
+                                               : ": XScreenSaver shows Lunaria there")};
+}
+
+Finding nobody(SystemView& system) {
+  const char* own = ownDesktopOf(system);
+  if (own != nullptr) {
+    const bool isIdle = system.isInstalled("xscreensaver") && !isWayland(system);
+    return {std::string(own) + " locks the screen, but shows no screen savers but its own" +
+                (isIdle ? "; XScreenSaver is installed, but does not run." : "."),
+            (isWayland(system) ? std::string(x11Session) + ", and there: " : "") + xscreensaverCure(system)};
+  }
+  if (isWayland(system)) {
+    return {"Nothing starts a screen saver here.", swayidleCure};
+  }
+  return {system.isInstalled("xscreensaver")
+              ? "XScreenSaver is installed, but does not run: nothing starts a screen saver here."
+              : "Nothing starts a screen saver here.",
+          xscreensaverCure(system)};
 }
 
 }  // namespace
 
 Findings SaverCheck::look(SystemView& system) {
   Findings findings;
-  if (system.runningProgram("xscreensaver")) {
-    const auto text = system.contentOf(system.homeFolder() + "/.xscreensaver");
-    findings.push_back(saverTexts::ofXScreenSaver(readXScreenSaver(text.value_or(""))));
+  const bool hasXScreenSaver = system.runningProgram("xscreensaver").has_value();
+  if (hasXScreenSaver && !isWayland(system)) {
+    findings.push_back(lookAtXScreenSaver(system));
   }
   if (system.runningProgram("mate-screensaver")) {
     findings.push_back(lookAtMate(system));
@@ -103,8 +164,9 @@ Findings SaverCheck::look(SystemView& system) {
       findings.push_back(*finding);
     }
   }
+  // On Wayland an XScreenSaver is nobody, and harmless where another starts Lunaria.
   if (findings.empty()) {
-    findings.push_back(nobodyOn(system, system.environment("XDG_CURRENT_DESKTOP").value_or("")));
+    findings.push_back(hasXScreenSaver ? xscreensaverOnWayland(system) : nobody(system));
   }
   return findings;
 }

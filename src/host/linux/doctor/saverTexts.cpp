@@ -47,4 +47,12 @@ Finding ofXScreenSaver(const XScreenSaverSettings& settings) {
           xscreensaverCure};
 }
 
+Finding ofMissingProgram(const std::string& program) {
+  return {
+      "XScreenSaver runs here, but cannot show Lunaria: its list names a program that is not there or "
+      "cannot be started:\n" +
+          program,
+      xscreensaverCure};
+}
+
 }  // namespace saverTexts

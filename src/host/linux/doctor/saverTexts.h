@@ -14,4 +14,7 @@ std::string after(int minutes);
 // XScreenSaver runs, with these settings.
 Finding ofXScreenSaver(const XScreenSaverSettings& settings);
 
+// XScreenSaver runs and is to show Lunaria, but cannot start this program of its list.
+Finding ofMissingProgram(const std::string& program);
+
 }  // namespace saverTexts

@@ -15,6 +15,9 @@ struct DisplayView {
   std::string server;              // what the display calls itself; "" where it does not say
   int width = 0, height = 0;       // pixels, of all monitors together
   std::vector<xplEdges> monitors;  // pixels; the main one first
+  // Seconds after which the X server itself says that nobody is there; 0: never. Nothing where it does not
+  // say.
+  std::optional<int> saverSeconds{};
 };
 
 struct FileView {
@@ -45,6 +48,8 @@ class SystemView {
   virtual std::optional<std::string> runningProgram(const std::string& name) = 0;
   // Whether a program can be started by its name, or lies beside this one.
   virtual bool isInstalled(const std::string& program) = 0;
+  // Whether XScreenSaver can start a program of its list, given as it stands there.
+  virtual bool canXScreenSaverStart(const std::string& program) = 0;
   // What a command writes, without the last line end; nothing where it fails or takes long.
   virtual std::optional<std::string> outputOf(const std::vector<std::string>& command) = 0;
   // The whole file; nothing where it cannot be read.

@@ -1,16 +1,13 @@
 // Implements the installation into XScreenSaver's preferences file.
 #include "host/linux/xscreensaver/xscreensaver.h"
 
-#include <array>
-#include <cstdlib>
 #include <filesystem>
 #include <string_view>
 #include <system_error>
 
-#include <unistd.h>
-
 #include "host/linux/hostFailure.h"
 #include "host/linux/xscreensaver/preferencesFile.h"
+#include "host/linux/xscreensaver/saverPrograms.h"
 #include "host/linux/xscreensaver/xscreensaverChoice.h"
 #include "host/linux/xscreensaver/xscreensaverMemory.h"
 #include "support/fileSystem.h"
@@ -18,11 +15,6 @@
 namespace {
 
 const std::string programName = "lunaria";
-
-// Where XScreenSaver looks for a saver first, on the distributions that we know.
-constexpr std::array<std::string_view, 5> saverFolders = {
-    "/usr/libexec/xscreensaver", "/usr/lib/xscreensaver", "/usr/lib64/xscreensaver",
-    "/usr/local/libexec/xscreensaver", "/usr/local/lib/xscreensaver"};
 
 // Characters that neither the shell nor XScreenSaver's list takes for anything else.
 constexpr std::string_view plainCharacters =
@@ -36,38 +28,9 @@ std::string preferencesPath() {
   return xplFileSystemMini::joinPath(home, ".xscreensaver");
 }
 
-bool isProgram(const std::string& path) {
-  return xplFileSystemMini::fileExists(path) && access(path.c_str(), X_OK) == 0;
-}
-
-bool isOnPath(const std::string& name) {
-  const char* value = std::getenv("PATH");
-  const std::string path = value != nullptr ? value : "";
-  for (std::size_t begin = 0; begin < path.size();) {
-    const std::size_t end = std::min(path.find(':', begin), path.size());
-    if (isProgram(xplFileSystemMini::joinPath(path.substr(begin, end - begin), name))) {
-      return true;
-    }
-    begin = end + 1;
-  }
-  return false;
-}
-
-bool canStart(const std::string& program) {
-  if (program.find('/') != std::string::npos) {
-    return isProgram(program);
-  }
-  for (const std::string_view folder : saverFolders) {
-    if (isProgram(xplFileSystemMini::joinPath(folder, program))) {
-      return true;
-    }
-  }
-  return isOnPath(program);
-}
-
 // The name alone where XScreenSaver finds this very program by it, else the full path.
 std::string commandOf(const std::string& program) {
-  for (const std::string_view folder : saverFolders) {
+  for (const std::string_view folder : xscreensaver::saverFolders) {
     std::error_code error;
     if (std::filesystem::equivalent(xplFileSystemMini::joinPath(folder, programName), program, error)) {
       return programName + " --root";
@@ -111,7 +74,7 @@ void writeWithMemory(const std::string& path, const std::string& text, const xsc
 }
 
 std::string furtherAdvice() {
-  if (!isOnPath("xscreensaver")) {
+  if (!xscreensaver::isOnPath("xscreensaver")) {
     return "XScreenSaver itself is not installed yet: install the package xscreensaver and start it with "
            "your session.\n";
   }
@@ -124,7 +87,7 @@ std::string furtherAdvice() {
 std::string installInXScreenSaver(const std::string& program) {
   const std::string path = preferencesPath();
   const auto text = readChecked(path);
-  const auto chosen = xscreensaver::choose(text.value_or(""), commandOf(program), canStart);
+  const auto chosen = xscreensaver::choose(text.value_or(""), commandOf(program), xscreensaver::canStart);
   if (text && chosen.text == *text) {
     return "Lunaria is XScreenSaver's saver already: " + path + " says so.\n" + furtherAdvice();
   }

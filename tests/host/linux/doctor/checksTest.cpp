@@ -109,6 +109,14 @@ TEST_F(ChecksTest, TheFilesAreToldWithTheirPlaces) {
                                                {"The log of the last run:\n/l", ""}}));
 }
 
+TEST_F(ChecksTest, ThatThereIsNoLogYetIsSaid) {
+  system.files["/l"] = {FileView::Kind::missing, false, true};
+  EXPECT_EQ(FileCheck::look(system).back(),
+            (Finding{"There is no log yet. The next run writes it, here:\n/l", ""}));
+  system.files["/l"] = {FileView::Kind::missing, false, false};
+  EXPECT_TRUE(FileCheck::look(system).back().isProblem());
+}
+
 TEST_F(ChecksTest, FilesThatAreOutOfReachAreProblems) {
   system.files = {{"/s", {FileView::Kind::file, false, false}},
                   {"/q", {FileView::Kind::file, true, false}},

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <map>
+#include <set>
 
 #include "host/linux/doctor/systemView.h"
 
@@ -11,6 +12,7 @@ class FakeSystem : public SystemView {
   DisplayView display() override { return shown; }
   std::optional<std::string> runningProgram(const std::string& name) override { return found(running, name); }
   bool isInstalled(const std::string& program) override { return installed.contains(program); }
+  bool canXScreenSaverStart(const std::string& program) override { return !unstartable.contains(program); }
   std::optional<std::string> outputOf(const std::vector<std::string>& command) override {
     std::string line;
     for (const std::string& word : command) {
@@ -33,6 +35,7 @@ class FakeSystem : public SystemView {
   DisplayView shown{DisplayView::Kind::x11, ":0", "X.Org 21.1.7", 1920, 1080, {{0, 0, 1920, 1080}}};
   std::map<std::string, std::string> running{{"xscreensaver", "xscreensaver --no-splash"}};
   std::map<std::string, bool> installed{{"lunaria-configure", true}};
+  std::set<std::string> unstartable;
   std::map<std::string, std::string> outputs;
   std::map<std::string, std::string> contents{
       {"/home/luna/.xscreensaver",

@@ -117,31 +117,56 @@ TEST_F(SaverCheckTest, IdleProgramsStartOthers) {
   }
 }
 
-TEST_F(SaverCheckTest, DesktopsThatShowTheirOwnAlone) {
-  system.running.clear();
-  for (const auto& [variable, name] : {std::pair{"ubuntu:GNOME", "GNOME"}, std::pair{"KDE", "KDE Plasma"},
-                                       std::pair{"X-Cinnamon", "Cinnamon"}, std::pair{"XFCE", "Xfce"}}) {
-    system.variables["XDG_CURRENT_DESKTOP"] = variable;
-    EXPECT_EQ(look(),
-              (Finding{std::string(name) + " locks the screen, but shows no screen savers but its own.",
-                       "sudo apt install xscreensaver && lunaria --install-xscreensaver"}));
-  }
+TEST_F(SaverCheckTest, XScreenSaverCannotCoverAWaylandSession) {
+  const std::string text = "XScreenSaver runs here, but cannot cover the screen in a Wayland session.";
   system.shown.kind = DisplayView::Kind::wayland;
-  EXPECT_EQ(look().cure, "log in to an X11 session, and there: sudo apt install xscreensaver");
+  system.variables["XDG_CURRENT_DESKTOP"] = "sway";
+  EXPECT_EQ(look(), (Finding{text, "install swayidle; at login start: swayidle -w timeout 600 'lunaria &'"}));
+  system.variables["XDG_CURRENT_DESKTOP"] = "GNOME";
+  EXPECT_EQ(look(), (Finding{text, "log in to an X11 session: XScreenSaver shows Lunaria there"}));
+  system.contents.clear();
+  EXPECT_EQ(look(), (Finding{text, std::string("log in to an X11 session, and there: ") + install}));
 }
 
-TEST_F(SaverCheckTest, NobodyStartsScreenSavers) {
-  system.running.clear();
-  system.variables.clear();
-  EXPECT_EQ(look(), (Finding{"Nothing starts a screen saver here.",
-                             "sudo apt install xscreensaver && lunaria --install-xscreensaver"}));
-  system.installed["xscreensaver"] = true;
-  EXPECT_EQ(look(),
-            (Finding{"XScreenSaver is installed, but does not run: nothing starts a screen saver here.",
-                     "let your session start it at login: xscreensaver --no-splash"}));
+TEST_F(SaverCheckTest, XScreenSaverOnWaylandDoesNotMatterWhereAnotherStartsLunaria) {
   system.shown.kind = DisplayView::Kind::wayland;
-  EXPECT_EQ(look(), (Finding{"Nothing starts a screen saver here.",
-                             "install swayidle; at login start: swayidle -w timeout 600 'lunaria &'"}));
+  system.running["swayidle"] = "swayidle -w timeout 300 lunaria";
+  EXPECT_EQ(look(), (Finding{"swayidle runs here and starts Lunaria after 5 minutes.", ""}));
+}
+
+TEST_F(SaverCheckTest, XScreenSaverCannotStartLunaria) {
+  const Finding gone{
+      "XScreenSaver runs here, but cannot show Lunaria: its list names a program that is not there or cannot "
+      "be started:\n/gone/lunaria",
+      install};
+  system.unstartable = {"/gone/lunaria"};
+  setXScreenSaver("mode: one\nselected: 0\nprograms: /gone/lunaria --root \\n\n");
+  EXPECT_EQ(look(), gone);
+  setXScreenSaver("mode: random\nprograms: stars \\n /gone/lunaria --root \\n\n");
+  EXPECT_EQ(look(), gone);
+  setXScreenSaver("mode: one\nselected: 1\nprograms: /gone/lunaria --root \\n lunaria --root \\n\n");
+  EXPECT_FALSE(look().isProblem());
+}
+
+TEST_F(SaverCheckTest, HypridleAndXautolockSayWhen) {
+  system.running = {{"hypridle", "hypridle"}};
+  system.contents["/home/luna/.config/hypr/hypridle.conf"] =
+      "listener {\n    timeout = 600\n    on-timeout = lunaria\n}\n";
+  EXPECT_EQ(look(), (Finding{"hypridle runs here and starts Lunaria after 10 minutes.", ""}));
+  system.running = {{"xautolock", "xautolock -time 7 -locker lunaria "}};
+  EXPECT_EQ(look(), (Finding{"xautolock runs here and starts Lunaria after 7 minutes.", ""}));
+}
+
+TEST_F(SaverCheckTest, XssLockWaitsForTheServer) {
+  system.running = {{"xss-lock", "xss-lock -- lunaria "}};
+  EXPECT_EQ(look(), (Finding{"xss-lock runs here and starts Lunaria.", ""}));
+  system.shown.saverSeconds = 601;
+  EXPECT_EQ(look(), (Finding{"xss-lock runs here and starts Lunaria after 11 minutes.", ""}));
+  system.shown.saverSeconds = 0;
+  EXPECT_EQ(look(),
+            (Finding{"xss-lock runs here and starts Lunaria, but the display is set never to say that "
+                     "nobody is there.",
+                     "now and at each login: xset s 600 0"}));
 }
 
 }  // namespace

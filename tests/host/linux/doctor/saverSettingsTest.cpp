@@ -54,6 +54,14 @@ TEST(ReadXScreenSaver, ASwitchedOffEntryIsNotListed) {
   EXPECT_FALSE(readXScreenSaver("programs: - lunaria --root \\n\n").isListed);
 }
 
+TEST(ReadXScreenSaver, TellsTheProgramThatItShows) {
+  const std::string programs =
+      "programs: - /old/lunaria --root \\n\\\n /a/lunaria --root \\n\\\n /b/lunaria --root \\n\n";
+  EXPECT_EQ(readXScreenSaver("mode: random\nselected: 2\n" + programs).program, "/a/lunaria");
+  EXPECT_EQ(readXScreenSaver("mode: one\nselected: 2\n" + programs).program, "/b/lunaria");
+  EXPECT_EQ(readXScreenSaver("mode: one\nselected: 0\nprograms: stars \\n\n").program, "");
+}
+
 TEST(ReadXScreenSaver, KnowsTheModes) {
   EXPECT_EQ(readXScreenSaver("mode: off\n").mode, Mode::off);
   EXPECT_EQ(readXScreenSaver("mode: blank\n").mode, Mode::blank);
@@ -73,7 +81,41 @@ TEST(MinutesUntilLunaria, AreThoseOfTheTimeoutBeforeIt) {
 
 TEST(MinutesUntilLunaria, AreOpenWhereNoTimeIsNamed) {
   EXPECT_EQ(minutesUntilLunaria("xss-lock -- lunaria"), 0);
-  EXPECT_EQ(minutesUntilLunaria("listener {\n  timeout = 300\n  on-timeout = lunaria\n}\n"), 0);
+  EXPECT_EQ(minutesUntilLunaria("xautolock -locker lunaria"), 0);
+  EXPECT_EQ(minutesUntilLunaria("listener {\n  on-timeout = lunaria\n}\n"), 0);
+}
+
+TEST(MinutesUntilLunaria, AreXautolocksMinutes) {
+  EXPECT_EQ(minutesUntilLunaria("xautolock -time 10 -locker lunaria"), 10);
+  EXPECT_EQ(minutesUntilLunaria("xautolock -locker lunaria -time 5 "), 5);
+  EXPECT_EQ(minutesUntilLunaria("xautolock -time 5 -locker slock"), std::nullopt);
+}
+
+TEST(MinutesUntilLunaria, AreThoseOfHypridlesListener) {
+  EXPECT_EQ(minutesUntilLunaria("listener {\n    timeout = 600\n    on-timeout = lunaria\n}\n"), 10);
+  EXPECT_EQ(minutesUntilLunaria("listener{\n\ton-timeout=lunaria\n\ttimeout=61 # a minute\n} # end\n"), 2);
+}
+
+TEST(MinutesUntilLunaria, AreNotThoseOfHypridlesOtherListeners) {
+  const std::string dim = "listener {\n  timeout = 120\n  on-timeout = dim\n  on-resume = undim\n}\n";
+  const std::string ours = "listener {\n  timeout = 300\n  on-timeout = lunaria\n}\n";
+  const std::string late = "listener {\n  timeout = 900\n  on-timeout = lunaria --window\n}\n";
+  EXPECT_EQ(minutesUntilLunaria(dim + ours), 5);
+  EXPECT_EQ(minutesUntilLunaria(ours + dim), 5);
+  EXPECT_EQ(minutesUntilLunaria(ours + late), 5) << "the first one brings it up";
+  EXPECT_EQ(minutesUntilLunaria(dim), std::nullopt);
+  EXPECT_EQ(minutesUntilLunaria("general {\n  lock_cmd = lunaria\n}\n" + dim), 0);
+}
+
+TEST(MinutesUntilLunaria, AreNoneWhereHypridleOnlyEndsIt) {
+  EXPECT_EQ(
+      minutesUntilLunaria("listener {\n timeout = 300\n on-timeout = dim\n on-resume = kill lunaria\n}\n"),
+      std::nullopt);
+  EXPECT_EQ(minutesUntilLunaria("listener {\n timeout = 300\n # on-timeout = lunaria\n}\n"), std::nullopt);
+}
+
+TEST(MinutesUntilLunaria, AreFoundBehindAColour) {
+  EXPECT_EQ(minutesUntilLunaria("swayidle timeout 60 'dim #000' timeout 600 lunaria"), 10);
 }
 
 TEST(MinutesUntilLunaria, AreNoneWhereItIsNotNamed) {
