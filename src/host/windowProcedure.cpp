@@ -138,15 +138,23 @@ void destroy() {
   logInfo().add("xplLog closing");
 }
 
-}  // namespace
-
-std::unique_ptr<xplScreenSaverInterface> makeNoctisScreensaver() {
+std::unique_ptr<xplScreenSaverInterface> makeWith(xplServices (*services)()) {
   try {
-    return std::make_unique<noctisScreensaver>(xplServices::ofPlatform());
+    return std::make_unique<noctisScreensaver>(services());
   } catch (const std::bad_alloc& error) {
     logError().addf("Exception caught:\n%s\n%s", error.what(), "exception caught: noctisScreensaver()");
     return nullptr;
   }
+}
+
+}  // namespace
+
+std::unique_ptr<xplScreenSaverInterface> makeNoctisScreensaver() {
+  return makeWith(xplServices::ofPlatform);
+}
+
+std::unique_ptr<xplScreenSaverInterface> makeQuietScreensaver() {
+  return makeWith([] { return xplServices::ofPlatform().besideAnotherRun(); });
 }
 
 // Deliberate: the framework takes "/P", "-p" and "/s" in any case, but only "/p", written exactly so, is the

@@ -37,6 +37,9 @@ extern Procedure defaultProcedure;
 
 // A noctisScreensaver, or null for want of memory.
 std::unique_ptr<xplScreenSaverInterface> makeNoctisScreensaver();
+// The same for a run that leaves the sounds and the usage report to another that runs beside it. A framework
+// that starts such a run puts it into makeScreenSaver before WM_CREATE.
+std::unique_ptr<xplScreenSaverInterface> makeQuietScreensaver();
 
 // -1 (the preview) or 0 (the normal run), by the program's arguments, its own name first.
 std::int32_t monitorIdFor(const std::vector<std::string>& arguments);

@@ -17,3 +17,10 @@ xplServices xplServices::ofPlatform() {
   };
   return services;
 }
+
+// Each run keeps the computer awake on its own: twice does no harm, and no run depends on another's end.
+xplServices xplServices::besideAnotherRun() const {
+  xplServices services;
+  services.makeKeepAwake = makeKeepAwake;
+  return services;
+}

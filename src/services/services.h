@@ -20,4 +20,7 @@ struct xplServices {
 
   // The real ones, for the programs that users start.
   static xplServices ofPlatform();
+
+  // Those of these that remain for a run beside another one, which makes the sounds and the usage report.
+  xplServices besideAnotherRun() const;
 };

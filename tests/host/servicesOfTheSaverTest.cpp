@@ -18,17 +18,16 @@ namespace {
 
 class ServicesOfTheSaver : public PrivateFolders {
  protected:
-  std::unique_ptr<noctisScreensaver> makeSaver() {
-    xplServices services;
-    services.makeSoundOutput = [this] { return std::make_unique<RecordingSound>(sounds); };
-    services.makeKeepAwake = [this] { return std::make_unique<RecordingKeepAwake>(awake); };
-    services.makeAnalytics = [this](const std::string& folder) {
-      report.add("make in " + folder);
-      return std::make_unique<RecordingAnalytics>(report);
-    };
-    auto saver = std::make_unique<noctisScreensaver>(std::move(services));
-    saver->setContainerFolder("somewhere");
-    return saver;
+  std::unique_ptr<noctisScreensaver> makeSaver() { return makeSaver(recorders()); }
+  std::unique_ptr<noctisScreensaver> makeQuietSaver() { return makeSaver(recorders().besideAnotherRun()); }
+  // A whole run during which it strikes nine in the evening.
+  void runOverTheHour(noctisScreensaver& saver) {
+    setLocalTime(20, 59, 59);
+    saver.initWithWindowHandle(window.handle(), 0);
+    saver.animateOneFrame(2.0F);
+    setLocalTime(21, 0, 1);
+    saver.animateOneFrame(2.0F);
+    saver.shutDown();
   }
   // The place of an entry in the log; its length where there is none.
   std::ptrdiff_t place(const std::string& entry) const {
@@ -41,6 +40,23 @@ class ServicesOfTheSaver : public PrivateFolders {
   KeepAwakeRecord awake;
   AnalyticsRecord report;
   TestWindow window{160, 120, 30, 20};
+
+ private:
+  xplServices recorders() {
+    xplServices services;
+    services.makeSoundOutput = [this] { return std::make_unique<RecordingSound>(sounds); };
+    services.makeKeepAwake = [this] { return std::make_unique<RecordingKeepAwake>(awake); };
+    services.makeAnalytics = [this](const std::string& folder) {
+      report.add("make in " + folder);
+      return std::make_unique<RecordingAnalytics>(report);
+    };
+    return services;
+  }
+  static std::unique_ptr<noctisScreensaver> makeSaver(xplServices services) {
+    auto saver = std::make_unique<noctisScreensaver>(std::move(services));
+    saver->setContainerFolder("somewhere");
+    return saver;
+  }
 };
 
 // The report's waiting takes its time on this one.
@@ -150,6 +166,22 @@ TEST_F(ServicesOfTheSaver, EachFrameOfTheWorldIsATickOfTheSleepPrevention) {
   EXPECT_FALSE(isLogged("cPreventComputerSleep is tick time"));
   saver->animateOneFrame(0.04F);
   EXPECT_TRUE(isLogged("cPreventComputerSleep is tick time"));
+}
+
+TEST_F(ServicesOfTheSaver, BesideAnotherRunItIsSilent) {
+  xplUserSettings().set("snd_selectedSound", 2);
+  xplUserSettings().set("snd_cookooEveryHour", true);
+  xplUserSettings().set("sisableTelemetry", true);  // its waiting would move the clock
+  runOverTheHour(*makeQuietSaver());
+  EXPECT_THAT(sounds, IsEmpty());
+  runOverTheHour(*makeSaver());
+  EXPECT_THAT(sounds, ElementsAre("stop", "play 115", "stop", "stop", "play 111", "stop"));
+}
+
+TEST_F(ServicesOfTheSaver, BesideAnotherRunItPreventsSleep) {
+  xplUserSettings().set("preventComputerSleep", 3);
+  makeQuietSaver().reset();
+  EXPECT_THAT(awake.calls, ElementsAre("request", "release"));
 }
 
 TEST_F(ServicesOfTheSaver, WithoutServicesItRunsAllTheSame) {

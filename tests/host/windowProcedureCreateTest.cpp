@@ -104,6 +104,13 @@ TEST_F(WindowProcedureCreate, AfterDestroyANewObjectIsMadeAndNotInitialised) {
   EXPECT_NE(windowProcedure::screensaverPtr, nullptr);
 }
 
+TEST_F(WindowProcedureCreate, MakesAWholeSkyForAQuietRunAndNoReport) {
+  windowProcedure::makeScreenSaver = windowProcedure::makeQuietScreensaver;
+  send(WM_CREATE);
+  EXPECT_EQ(countEntries("Creating TnoctisWorld with monitorId =0"), 1);
+  EXPECT_EQ(countEntries("Entering: creating telemetry thread"), 0);
+}
+
 TEST_F(WindowProcedureCreate, WithoutAnObjectOnlyTheTimerStarts) {
   windowProcedure::makeScreenSaver = [] { return std::unique_ptr<xplScreenSaverInterface>(); };
   EXPECT_EQ(send(WM_CREATE), 0);

@@ -46,6 +46,9 @@ void runSaver(SaverDisplay& display, StopSignals& signals, const std::string& pr
   HostRequest known = request;
   known.mode = stage->mode();
   xplAppLinux::setArguments(canonicalArguments(program, known));
+  if (stage->isQuiet()) {
+    windowProcedure::makeScreenSaver = windowProcedure::makeQuietScreensaver;
+  }
   MessagePump pump(&stage->window(), stage->kind(), ScreenSaverProc);
   {
     const MeasuredRun measured(request.hasStatistics, pump);

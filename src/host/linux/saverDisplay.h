@@ -1,8 +1,8 @@
 // What the saver's run needs of a display, whichever kind it is: X11 or Wayland.
 //
 // Whoever adds another kind supplies a display that makes a stage, and the stage's window and link. They are
-// used in this order: open(), window(), kind() and mode(), then the window gets its WM_CREATE, then show(),
-// and the link works until the run ends. The link goes first, then the stage, then the display.
+// used in this order: open(), window(), kind(), mode() and isQuiet(), then the window gets its WM_CREATE,
+// then show(), and the link works until the run ends. The link goes first, then the stage, then the display.
 #pragma once
 
 #include <memory>
@@ -26,6 +26,8 @@ class SaverStage {
   virtual WindowKind kind() const = 0;
   // What the run is: the mode that was asked for, or another where the display knows better.
   virtual HostRequest::Mode mode() const = 0;
+  // True where the sounds and the usage report are those of another run, started beside this one.
+  virtual bool isQuiet() const = 0;
   // Puts the window on the screen and listens to the input. Pump and signals are borrowed.
   virtual std::unique_ptr<DisplayLink> show(MessagePump& pump, StopSignals& signals) = 0;
   // Where the pointer stood when the stage was made; nothing where the display tells it later by itself.

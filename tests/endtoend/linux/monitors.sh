@@ -20,6 +20,7 @@ covered() {
 main_monitor_is() { [ "$(grep -o 'Monitor 0: .*' "$log" | tail -1)" = "Monitor 0: $1" ]; }
 # follows NAME EDGES: the saver has learned that the main monitor has these edges.
 follows() { check "$1: the main monitor is known" until_true 5 main_monitor_is "$2"; }
+not() { ! "$@"; }
 goes_on() {
   check "$1: frames advance" frames_advance root
   same "$1: nothing is refused" 0 "$(grep -c 'The display refused' "$log")"
@@ -44,6 +45,62 @@ goes_on "monitors that are parts of one output"
 end_saver
 same "it ends in order" 0 "$code"
 same "the log has no error" 0 "$(grep -c '^ERROR' "$log")"
+
+# A daemon gives each monitor a window and a run of its own: the sounds and the report are those of one of them.
+start_display 2304x1020x24
+xrandr --setmonitor '*main' 1280/339x720/190+1024+300 screen >/dev/null
+xrandr --setmonitor left 1024/271x600/159+0+0 none
+# start_run NAME GEOMETRY: a run in another program's window; sets process and window, its log is in the folder NAME.
+start_run() {
+  mkdir -m 700 "$work/$1"
+  mkfifo "$work/$1/lines"
+  # Opened for both ends, the window's program never sees its input end.
+  "$helper" window "$2" <>"$work/$1/lines" >"$work/$1/id" &
+  servers+=($!)
+  until_true 10 test -s "$work/$1/id" || return 1
+  window=$(cat "$work/$1/id")
+  TMPDIR=$work/$1 XSCREENSAVER_WINDOW=$window "$lunaria" --root >"$work/out" 2>"$work/err" &
+  process=$!
+  servers+=("$process")
+  until_true 10 shows_sky "$window"
+}
+threads_of() { cat "/proc/$1/task/"*/comm | sort | paste -sd' '; }
+sounds() { threads_of "$1" | grep -q SDLAudio; }
+says_in() { grep -qF -- "$2" "$work/$1/Lunaria.xplLog.txt"; }
+silent='is not the one over the main monitor: the sky is silent here'
+report='creating telemetry thread'
+settings=$HOME/.config/"Lunaria software"
+mkdir -p "$settings"
+echo snd_selectedSound=4 >"$settings/Lunaria screensaver.ini"
+check "the run over the other monitor shows the sky" start_run left 1024x600+0+0
+left=$process left_window=$window
+check "and says why it is silent" says_in left "Info>	The window at 0,0 $silent"
+check "the run over the main monitor shows the sky" start_run right 1280x720+1024+300
+check "and has the sound" until_true 5 sounds "$process"
+check "and the report" says_in right "$report"
+check "and does not say that it is silent" not says_in right "$silent"
+check "the other's frames advance" frames_advance "$left_window"
+same "it has its own thread and no other" lunaria "$(threads_of "$left")"
+check "and no report" not says_in left "$report"
+kill "$process" "$left"
+wait "$process" && wait "$left"
+same "both end in order" 0 $?
+same "the log of the silent one is complete" $'Info>\txplLog closing' "$(tail -1 "$work/left/Lunaria.xplLog.txt")"
+check "one window over all monitors" start_run both 2304x1020+0+0
+check "has the sound" until_true 5 sounds "$process"
+kill "$process"
+XSCREENSAVER_WINDOW=$(xwininfo -root | sed -n 's/.*Window id: \([^ ]*\).*/\1/p')
+export XSCREENSAVER_WINDOW
+check "the root window" start_and_see root --root
+check "has the sound, too" until_true 5 sounds "$saver"
+end_saver
+unset XSCREENSAVER_WINDOW
+xrandr --delmonitor left
+xrandr --delmonitor main
+check "one of several windows on one monitor" start_run part 1800x800+504+220
+check "has the sound, too" until_true 5 sounds "$process"
+kill "$process"
+rm "$settings/Lunaria screensaver.ini"
 
 # Monitors of their own, plugged and unplugged.
 xorg=/usr/lib/xorg/Xorg

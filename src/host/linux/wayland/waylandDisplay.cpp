@@ -19,6 +19,7 @@ class WaylandStage : public SaverStage {
   xpliNativeWindow& window() override { return m_window; }
   WindowKind kind() const override { return m_window.kind(); }
   HostRequest::Mode mode() const override { return m_mode; }
+  bool isQuiet() const override { return false; }
   std::unique_ptr<DisplayLink> show(MessagePump& pump, StopSignals& signals) override {
     return std::make_unique<WaylandLink>(m_connection, *m_globals, signals, m_window, pump);
   }

@@ -6,6 +6,7 @@
 
 #include "host/linux/hostFailure.h"
 #include "host/linux/x11/makeX11Window.h"
+#include "host/linux/x11/quietRun.h"
 #include "host/linux/x11/smallWindow.h"
 #include "host/linux/x11/x11Link.h"
 #include "support/log.h"
@@ -18,16 +19,22 @@ class X11Stage : public SaverStage {
       : m_connection(connection),
         m_facts(std::move(facts)),
         m_window(makeX11Window(connection, m_facts, request)),
-        m_mode(modeIn(m_facts, request.mode)) {
+        m_mode(modeIn(m_facts, request.mode)),
+        m_isQuiet(isQuietIn(m_facts, m_mode)) {
     if (m_mode != request.mode) {
       logInfo().addf("The window of %dx%d is small for this screen: it shows the preview",
                      m_facts.window->width, m_facts.window->height);
+    }
+    if (m_isQuiet) {
+      logInfo().addf("The window at %d,%d is not the one over the main monitor: the sky is silent here",
+                     m_facts.window->x, m_facts.window->y);
     }
   }
 
   xpliNativeWindow& window() override { return *m_window; }
   WindowKind kind() const override { return m_window->kind(); }
   HostRequest::Mode mode() const override { return m_mode; }
+  bool isQuiet() const override { return m_isQuiet; }
   std::unique_ptr<DisplayLink> show(MessagePump& pump, StopSignals& signals) override {
     return std::make_unique<X11Link>(m_connection, signals, *m_window, pump, m_facts);
   }
@@ -38,6 +45,7 @@ class X11Stage : public SaverStage {
   X11Facts m_facts;
   std::unique_ptr<X11Window> m_window;
   HostRequest::Mode m_mode;
+  bool m_isQuiet;
 };
 
 }  // namespace
