@@ -104,6 +104,7 @@ check "installed again: exit code 0" [ "$(setup /S)" = 0 ]
 remove /S /PURGE
 keep_state purged
 check "with /PURGE: no file is left" [ -z "$(added_files before purged)" ]
+check "with /PURGE: no other file was touched" [ -z "$(changed_files before purged)" ]
 check "with /PURGE: the registry is as before" same_part before purged ''
 
 . "$here/windows/installer_cases.sh"
@@ -111,5 +112,6 @@ check "with /PURGE: the registry is as before" same_part before purged ''
 . "$here/windows/installer_pages.sh"
 keep_state after
 check "after all of it: no file is left" [ -z "$(added_files before after)" ]
+check "after all of it: no other file was touched" [ -z "$(changed_files before after)" ]
 check "after all of it: the registry is as before" same_part before after ''
 finish

@@ -48,17 +48,22 @@ reg_delete() { "$run" reg delete "$1" /v "$2" /f >/dev/null 2>&1; }
 # Keeps the files and the registry of this moment under a name. Left out: folders of temporary files.
 keep_state() {  # NAME
   settle
-  (cd "$prefix/drive_c" && find . \( -ipath './users/*/Temp/*' -o -ipath './windows/temp/*' \) -prune -o -print |
-    sed 's/^\.\///' | LC_ALL=C sort) > "$scratch/$1.files"
+  local temporary=(\( -ipath '*/users/*/Temp/*' -o -ipath '*/windows/temp/*' \) -prune)
+  find "$prefix/drive_c/" "${temporary[@]}" -o -printf '%P\n' | LC_ALL=C sort > "$scratch/$1.files"
+  find "$prefix/drive_c/" "${temporary[@]}" -o -type f -printf '%P\t%s\t%T@\n' | LC_ALL=C sort > "$scratch/$1.stamps"
   local part number=0
-  for part in 'HKEY_LOCAL_MACHINE\Software' HKEY_CURRENT_USER; do
+  # The last holds what is to be deleted at the next start.
+  for part in 'HKEY_LOCAL_MACHINE\Software' HKEY_CURRENT_USER \
+    'HKEY_LOCAL_MACHINE\System\CurrentControlSet\Control\Session Manager'; do
     number=$((number + 1))
     "$run" regedit /E "Z:${scratch//\//\\}\\part$number.reg" "$part" 2>/dev/null
   done
   settle
-  cat "$scratch"/part[12].reg | iconv -f UTF-16 -t UTF-8 2>/dev/null | tr -d '\r' > "$scratch/$1.reg"
+  cat "$scratch"/part[123].reg | iconv -f UTF-16 -t UTF-8 2>/dev/null | tr -d '\r' > "$scratch/$1.reg"
   [ "$(wc -l < "$scratch/$1.reg")" -gt 1000 ] || { echo "the registry was not written" >&2; exit 2; }
 }
+# changed_files FROM TO: those of the first state that have gone since, or were written to.
+changed_files() { LC_ALL=C comm -23 "$scratch/$1.stamps" "$scratch/$2.stamps"; }
 added_files() { LC_ALL=C comm -3 "$scratch/$1.files" "$scratch/$2.files" | tr -d '\t'; }
 # same_part FROM TO TEXT: whether no key whose name holds TEXT differs; every line carries its key's name.
 same_part() {
