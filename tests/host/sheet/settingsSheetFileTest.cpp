@@ -6,6 +6,15 @@ using testing::HasSubstr;
 
 namespace {
 
+// A store of its own stands for another process, whose memory does not know of this one's changes.
+class TwoSheets : public SettingsSheetModel {
+ protected:
+  xplSettings firstStore{xplSettings::scopeUser};
+  xplSettings secondStore{xplSettings::scopeUser};
+  SettingsSheet first{firstStore};
+  SettingsSheet second{secondStore};
+};
+
 TEST_F(SettingsSheetModel, AFileThatCannotBeWrittenIsToldAndNothingChanges) {
   xplUserSettings();
   blockFile();
@@ -50,12 +59,7 @@ TEST_F(SettingsSheetModel, CancellingAfterAFailureWritesNoPage) {
   EXPECT_EQ(inFile("activeDialogTab"), "0");
 }
 
-// A store of its own stands for another process, whose memory does not know of this one's changes.
-TEST_F(SettingsSheetModel, TwoSheetsKeepEachOthersPages) {
-  xplSettings firstStore(xplSettings::scopeUser);
-  xplSettings secondStore(xplSettings::scopeUser);
-  SettingsSheet first(firstStore);
-  SettingsSheet second(secondStore);
+TEST_F(TwoSheets, KeepEachOthersPages) {
   first.open(moonPage);
   second.open(backgroundPage);
   first.collect(moonPage, {controlIds::moonSmall});
@@ -67,11 +71,7 @@ TEST_F(SettingsSheetModel, TwoSheetsKeepEachOthersPages) {
   EXPECT_EQ(inFile("background"), "0");
 }
 
-TEST_F(SettingsSheetModel, APageThatIsOpenedLateShowsWhatAnotherSheetSaved) {
-  xplSettings firstStore(xplSettings::scopeUser);
-  xplSettings secondStore(xplSettings::scopeUser);
-  SettingsSheet first(firstStore);
-  SettingsSheet second(secondStore);
+TEST_F(TwoSheets, APageThatIsOpenedLateShowsWhatAnotherSheetSaved) {
   second.open(moonPage);
   first.open(backgroundPage);
   first.open(messagesPage);
