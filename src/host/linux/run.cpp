@@ -2,11 +2,14 @@
 #include "host/linux/run.h"
 
 #include <exception>
+#include <iostream>
+#include <optional>
 #include <string>
 
 #include "host/linux/hostFailure.h"
 #include "host/linux/measuredRun.h"
 #include "host/linux/messagePump.h"
+#include "host/linux/onlyFullRun.h"
 #include "host/windowProcedure.h"
 #include "support/linux/applicationLinux.h"
 #include "support/log.h"
@@ -27,6 +30,18 @@ void runMessages(SaverStage& stage, StopSignals& signals, MessagePump& pump) {
   }
 }
 
+// False, and told, where the user has a full run on this display already: the upper one would end first, and
+// the sounds of both be heard meanwhile.
+bool hasPlace(const std::optional<OnlyFullRun>& onlyOne, const std::string& display) {
+  if (!onlyOne || onlyOne->isOurs()) {
+    return true;
+  }
+  const std::string note = "Lunaria already runs on display " + display;
+  logInfo().add(note);
+  std::cerr << note << "\n";
+  return false;
+}
+
 // Logged when the run is over, also where it failed.
 struct ClosingLine {
   ClosingLine() = default;
@@ -41,6 +56,13 @@ void runSaver(SaverDisplay& display, StopSignals& signals, const std::string& pr
               const HostRequest& request) {
   const auto stage = display.open(request, signals);
   if (stage == nullptr) {
+    return;
+  }
+  std::optional<OnlyFullRun> onlyOne;
+  if (stage->kind() == WindowKind::fullRun) {
+    onlyOne.emplace(display.name());
+  }
+  if (!hasPlace(onlyOne, display.name())) {
     return;
   }
   HostRequest known = request;

@@ -7,6 +7,7 @@
 
 #include <memory>
 #include <optional>
+#include <string>
 
 #include "graphics/linux/nativeWindow.h"
 #include "host/linux/commandLine.h"
@@ -37,6 +38,8 @@ class SaverStage {
 class SaverDisplay {
  public:
   virtual ~SaverDisplay() = default;
+  // As the environment gives it, such as ":0" or "wayland-1".
+  virtual const std::string& name() const = 0;
   // Makes the window that is asked for. The display must outlive the stage. Null where one of the signals
   // came before it was there; throws HostFailure where it cannot be had. Waiting ends with a signal, from now
   // on for as long as the display lives: the signals are borrowed.

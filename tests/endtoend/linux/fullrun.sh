@@ -46,6 +46,17 @@ check "coming up under the pointer ends nothing" kill -0 "$saver"
 end_saver
 same "and a signal does" 0 "$code"
 
+# Started by an idle watcher, say, beside the menu's entry.
+start_and_see root
+second_gives_way "$DISPLAY" frames_advance root
+{ end_saver KILL; } 2>/dev/null
+check "after one that was killed the next one shows" start_and_see root
+end_saver
+same "and ends" 0 "$code"
+same "nothing of them stays but the log" "${log##*/}" "$(ls "$TMPDIR")"
+start_and_see root --fullscreen
+end_saver
+
 cat >"$work/expected" <<'LINES'
 ScreenSaverProc() received WM_CREATE
 notepad window handle: 0

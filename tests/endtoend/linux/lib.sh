@@ -78,6 +78,14 @@ start_and_see() {
   start_saver "$@"
   until_true 10 shows_sky "$window"
 }
+# second_gives_way DISPLAY FRAMES_ADVANCE...: while the saver runs, a second one ends at once and says why.
+second_gives_way() {
+  local display=$1 second; shift
+  timeout 10 "$lunaria" >"$work/second" 2>&1
+  second=$?
+  same "a second run gives way" "0 Lunaria already runs on display $display" "$second $(cat "$work/second")"
+  check "the first one goes on" "$@"
+}
 # await_saver SECONDS: sets code to the exit code once the program has ended, to "running" where it has not.
 await_saver() {
   code=running

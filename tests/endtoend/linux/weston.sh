@@ -17,6 +17,7 @@ check "frames advance" screen_advances
 open_before=$(find "/proc/$saver/fd" | wc -l)
 for _ in 1 2 3 4 5; do screen_advances; done
 same "no descriptor is left open" "$open_before" "$(find "/proc/$saver/fd" | wc -l)"
+second_gives_way "$WAYLAND_DISPLAY" screen_advances
 end_saver
 same "SIGTERM ends it" 0 "$code"
 at_most "within 100 ms" 100 "$milliseconds"

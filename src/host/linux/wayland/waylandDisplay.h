@@ -10,7 +10,7 @@ class WaylandDisplay : public SaverDisplay {
 
   // False where there is no compositor to be had.
   bool isUsable() const { return m_connection.isUsable(); }
-  const std::string& name() const { return m_connection.displayName(); }
+  const std::string& name() const override { return m_connection.displayName(); }
 
  private:
   WaylandConnection m_connection;

@@ -6,6 +6,7 @@
 
 class X11Display : public SaverDisplay {
  public:
+  const std::string& name() const override { return m_connection.displayName(); }
   std::unique_ptr<SaverStage> open(const HostRequest& request, StopSignals& signals) override;
 
  private:
