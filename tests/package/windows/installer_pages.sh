@@ -5,10 +5,14 @@ program=$installer
 uninstaller='C:\Program Files\Lunaria\Uninstall.exe'
 xsetroot -solid '#3a6ea5'
 
+# Whether the screen shows the same in five looks, a tenth of a second apart: a page is drawn bit by bit.
 is_still() {
   screenshot still-a
-  screenshot still-b
-  [ "$(differing_pixels "$out/still-a.png" "$out/still-b.png")" = 0 ]
+  for _ in 1 2 3 4; do
+    read -r -t 0.1 <> <(:)
+    screenshot still-b
+    [ "$(differing_pixels "$out/still-a.png" "$out/still-b.png")" = 0 ] || return 1
+  done
 }
 # page NAME KEY...: presses the keys, and waits for another picture that stands still.
 page() {
@@ -23,22 +27,22 @@ page() {
 # The first and the last page have the great picture of the moon at the left, and at the same place; this is not the first.
 left_picture() { convert "$1" -crop 140x200+170+150 +repage "$2"; }
 shows_moon() {
-  screenshot moon
-  left_picture "$out/moon.png" "$out/moon-now.png"
+  is_still || return 1
+  left_picture "$out/still-b.png" "$out/moon-now.png"
   left_picture "$out/welcome.png" "$out/moon-then.png"
-  is_still && [ "$(differing_pixels "$out/moon-now.png" "$out/moon-then.png")" = 0 ] &&
-    [ "$(differing_pixels "$out/moon.png" "$out/welcome.png")" != 0 ]
+  [ "$(differing_pixels "$out/moon-now.png" "$out/moon-then.png")" = 0 ] &&
+    [ "$(differing_pixels "$out/still-b.png" "$out/welcome.png")" != 0 ]
 }
 last_page() {  # NAME
   check "$1: the last page is shown" wait_until 60 shows_moon
-  mv "$out/moon.png" "$out/$1.png"
+  mv "$out/still-b.png" "$out/$1.png"
 }
 start_program() {  # PROGRAM OPTIONS
   screenshot before-start
   exit_code_on_windows "$@" > "$scratch/code" &
   program_job=$!
-  check "$1: a window opens" wait_until 30 eval 'screenshot now && is_still &&
-    [ "$(differing_pixels "$out/before-start.png" "$out/now.png")" != 0 ]'
+  check "$1: a window opens" wait_until 30 eval 'is_still &&
+    [ "$(differing_pixels "$out/before-start.png" "$out/still-b.png")" != 0 ]'
 }
 ends_with() {  # CODE
   check "it ends with exit code $1" eval 'wait "$program_job"; [ "$(cat "$scratch/code")" = '"$1"' ]'
@@ -46,8 +50,8 @@ ends_with() {  # CODE
 
 # By Enter alone it is installed and chosen.
 start_program "Z:${installer//\//\\}" ''
-cp "$out/now.png" "$out/welcome.png"
-check "welcome: a picture of the night" [ "$(convert "$out/welcome.png" -crop 140x200+170+150 -format '%k' info:)" -gt 60 ]
+shows_night() { screenshot welcome && [ "$(convert "$out/welcome.png" -crop 140x200+170+150 -format '%k' info:)" -gt 60 ]; }
+check "welcome: a picture of the night" wait_until 30 shows_night
 page choice Return
 xdotool key Return
 last_page finish
@@ -67,7 +71,7 @@ ends_with 0
 mkdir -p "$user_data"
 echo 'showMoon=no' > "$user_data/Lunaria screensaver.ini"
 start_program "$uninstaller" '_?=C:\Program Files\Lunaria'
-cp "$out/now.png" "$out/remove.png"
+cp "$out/still-b.png" "$out/remove.png"
 xdotool key Return
 last_page removed
 xdotool key Return
@@ -102,13 +106,13 @@ ends_with 1
 check "cancelled: nothing is installed" [ ! -e "$folder" ]
 check "a newer version: installs" [ "$(setup_of "$newer" /S)" = 0 ]
 start_program "Z:${installer//\//\\}" ''
-cp "$out/now.png" "$out/older.png"
+cp "$out/still-b.png" "$out/older.png"
 xdotool key Return
 ends_with 3
 check "Enter keeps the newer version" saver_ends_with newer
 remove /S
 start_program "Z:${without_rights//\//\\}" "Z:${installer//\//\\}"
-cp "$out/now.png" "$out/rights.png"
+cp "$out/still-b.png" "$out/rights.png"
 xdotool key Return
 ends_with 4
-rm -f "$out"/{before-key,before-start,moon,moon-now,moon-then,now,still-a,still-b}.png
+rm -f "$out"/{before-key,before-start,moon-now,moon-then,still-a,still-b}.png
