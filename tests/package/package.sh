@@ -82,6 +82,13 @@ done
 keys() { xargs grep -ho '^[A-Za-z]*=' | sort -u; }
 same "the theme has the keys of those that are there" \
   "$(dpkg -L xscreensaver-data | grep '/screensavers/.*\.desktop$' | keys)" "$(echo "$theme" | keys)"
+for icon in "$share"/icons/hicolor/*/apps/lunaria.png; do
+  size=$(basename "$(dirname "$(dirname "$icon")")")
+  same "icon $size: its size, and it is clear in the corner" "$size 0" \
+    "$(convert "$icon" -format '%wx%h %[fx:round(p{0,0}.a)]' info:)"
+  check "icon $size: a picture" [ "$(identify -format %k "$icon")" -gt 20 ]
+done
+same "the launchers name it" "lunaria lunaria" "$(sed -n 's/^Icon=//p' "$work"/*/usr/share/applications/*.desktop | xargs)"
 check "the software catalogue takes it" tells appstreamcli validate --no-net "$share"/metainfo/*.metainfo.xml
 check "it claims no licence" grep -q '<project_license>LicenseRef-proprietary<' "$share"/metainfo/*.metainfo.xml
 check "it names the version" grep -q "<release version=\"$version\"" "$share"/metainfo/*.metainfo.xml

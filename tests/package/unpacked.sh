@@ -71,7 +71,13 @@ try_in_scratch_root() {
   tells "$root/usr/bin/lunaria" --install-xscreensaver
   cp "$HOME/.xscreensaver" "$work/preferences"
 
-  check "they can be removed" in_root --purge lunaria lunaria-configure
+  lunaria=$root/usr/bin/lunaria
+  start_and_see root
+  check "they can be removed, also while the saver runs" in_root --purge lunaria lunaria-configure
   same "without a trace" "" "$(files_in_root)$(cd "$root" && find . -path ./var -prune -o -type d ! -name . -print)"
+  check "the saver goes on" frames_advance root
+  xdotool key a
+  await_saver 5
+  same "and ends in order" 0 "$code"
   check "and without a change to the user's files" cmp "$work/preferences" "$HOME/.xscreensaver"
 }
