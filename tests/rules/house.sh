@@ -53,4 +53,9 @@ done
 # Time and chance come through the support library alone.
 check_none "A clock or a random source outside support" \
   "$(git ls-files 'src/*.cpp' 'src/*.h' | grep -v '^src/support/' | xargs grep -nE '\b(std::rand|srand|random_device|system_clock|gettimeofday|GetSystemTime|time\((NULL|nullptr|0)\))')"
+# The build's version is said again where the compiler cannot take it from there.
+version=$(sed -nE 's/^project\(.*VERSION ([0-9.]+).*/\1/p' CMakeLists.txt)
+for file in src/host/programVersion.h src/render/renderOptions.cpp src/services/telemetryValues.h src/resources/windows/lunaria.{rc,manifest}; do
+  grep -qwF "${version:-no version in CMakeLists.txt}" "$file" || complain "Not the version $version" "$file"
+done
 exit $bad
