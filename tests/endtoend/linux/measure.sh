@@ -51,12 +51,12 @@ start_on() {
     >"$home/.config/Lunaria software/Lunaria screensaver.ini"
   # shellcheck disable=SC2086
   env ${variables[$1]} HOME="$home" TMPDIR="$home/tmp" LD_PRELOAD="$faketime" FAKETIME='@2026-01-01 12:00:00' \
-    FAKETIME_DONT_FAKE_MONOTONIC=1 "$lunaria" >"$home/out" 2>&1 &
+    FAKETIME_DONT_FAKE_MONOTONIC=1 "$lunaria" --stats >"$home/out" 2>&1 &
   savers+=("$!")
 }
 # measure BACKGROUND
 measure() {
-  local number own=() shown=() savers=()
+  local number own=() shown=() savers=() measured=()
   for number in "${!names[@]}"; do start_on "$number" "$1"; done
   sleep 3 # the start is not what is measured
   for number in "${!names[@]}"; do
@@ -65,24 +65,27 @@ measure() {
   done
   sleep "$seconds"
   for number in "${!names[@]}"; do
-    echo "${names[$number]} $1 $(($(nanoseconds "${savers[$number]}") - own[number]))" \
-      "$(($(nanoseconds "${servers_of[$number]}") - shown[number]))"
-  done >>"$work/measured"
+    measured+=("${names[$number]} $1 $(($(nanoseconds "${savers[$number]}") - own[number]))$(
+      printf ' %s' $(($(nanoseconds "${servers_of[$number]}") - shown[number])))")
+  done
   kill "${savers[@]}"
   wait "${savers[@]}"
+  for number in "${!names[@]}"; do
+    echo "${measured[$number]} $(sed -nE 's/^Frames: .* ([0-9.]+) a second$/\1/p' "$work/home.$number/out")"
+  done >>"$work/measured"
 }
 for ((i = 0; i < times; i++)); do
   for background in 0 1 2 3; do measure "$background"; done
 done
 awk -v s="$seconds" '
   function tell(name) {
-    printf "%s: %.2f %% of a core (the saver %.2f, the display %.2f)\n", name, (own[name] + shown[name]) / n[name],
-           own[name] / n[name], shown[name] / n[name]
+    printf "%s: %.2f %% of a core (the saver %.2f, the display %.2f), %.1f frames a second\n", name,
+           (own[name] + shown[name]) / n[name], own[name] / n[name], shown[name] / n[name], frames[name] / n[name]
   }
   { for (i = 0; i < 2; i++) {
       name = i ? $1 ", all backgrounds" : $1 ", background " $2
       if (!n[name]++) order[++count] = name
-      own[name] += $3 / s / 1e7; shown[name] += $4 / s / 1e7
+      own[name] += $3 / s / 1e7; shown[name] += $4 / s / 1e7; frames[name] += $5
   } }
   END { for (i = 1; i <= count; i++) if (order[i] !~ /all/) tell(order[i])
         for (i = 1; i <= count; i++) if (order[i] ~ /all/) tell(order[i]) }' "$work/measured"
