@@ -18,6 +18,9 @@ constexpr int unseenPeriod = 1000;  // milliseconds between two looks at the tim
 constexpr std::uint64_t unseenTicks =
     25;  // that long a time of the saver's own timer, and no more after a pause
 
+// What the display says never waits longer for a tick.
+constexpr int longestUnheard = 50;  // milliseconds
+
 }  // namespace
 
 MessagePump::MessagePump(xplWindowHandle window, WindowKind kind, Procedure procedure)
@@ -110,7 +113,9 @@ void MessagePump::dispatchNext() {
 }
 
 bool MessagePump::waitAndCall(const DisplayLink& display, int milliseconds) {
-  std::vector<pollfd> waits{{display.descriptor(), POLLIN, 0}};
+  const bool isTickAwaited = milliseconds < 0 && display.isSeen() && display.canWaitForTick();
+  // A negative descriptor is passed over.
+  std::vector<pollfd> waits{{isTickAwaited ? -1 : display.descriptor(), POLLIN, 0}};
   for (const auto& watch : m_watches) {
     waits.push_back({watch.descriptor, POLLIN, 0});
   }
@@ -121,7 +126,8 @@ bool MessagePump::waitAndCall(const DisplayLink& display, int milliseconds) {
       waits.push_back({timer.descriptor.get(), POLLIN, 0});
     }
   }
-  const bool isReady = ::poll(waits.data(), waits.size(), isSeen ? milliseconds : unseenPeriod) > 0;
+  const int longest = isTickAwaited ? longestUnheard : isSeen ? milliseconds : unseenPeriod;
+  const bool isReady = ::poll(waits.data(), waits.size(), longest) > 0;
   for (std::size_t i = 1; isReady && i < watches; ++i) {
     if (waits[i].revents != 0) {
       callWatch(waits[i].fd);

@@ -27,6 +27,9 @@ class DisplayLink {
   // what is timed ends, at next to no cost. What ends that makes the descriptor readable. mayPaint() is false
   // as long as this is.
   virtual bool isSeen() const { return true; }
+  // True where nothing else is awaited from the display than that it is ready for another frame, which can
+  // wait for the next tick of a timer. What the user does then waits as well: for a frame's time, at most.
+  virtual bool canWaitForTick() const { return false; }
   // Sends what is still on its way to the display.
   virtual void flush() = 0;
 };
@@ -93,7 +96,8 @@ class MessagePump {
 
   LRESULT sendMeasured(UINT message, WPARAM wParam, LPARAM lParam);
   void dispatchNext();
-  // Waits until something can be read, for at most so many milliseconds (-1: for ever). True when it was.
+  // Waits until something can be read or has ticked, for at most so many milliseconds (-1: for ever). True
+  // when it was.
   bool waitAndCall(const DisplayLink& display, int milliseconds);
   void callWatch(int descriptor);
   // Posts WM_TIMER for each timer that has ticked: one for all its periods, or one for each of them, but

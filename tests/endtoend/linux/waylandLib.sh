@@ -66,7 +66,7 @@ sway_answers() {
 start_weston() {
   local size=${2:-1280x720}
   weston --backend=headless-backend.so --use-pixman --width="${size%x*}" --height="${size#*x}" --shell="$1-shell.so" \
-    --socket="weston-$1" --debug --no-config >"$work/weston.log" 2>&1 &
+    --socket="weston-$1" --idle-time=0 --debug --no-config >"$work/weston.log" 2>&1 &
   compositor_pid=$!
   servers+=("$compositor_pid")
   until_true 15 test -S "$XDG_RUNTIME_DIR/weston-$1" || { echo "weston does not start:"; cat "$work/weston.log"; exit 1; }

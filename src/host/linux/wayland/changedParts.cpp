@@ -6,7 +6,7 @@
 namespace {
 
 constexpr int columnWidth = 32;      // pixels
-constexpr std::int64_t worth = 200;  // pixels: so many may come in between for one part less
+constexpr std::int64_t worth = 400;  // pixels: so many may come in between for one part less
 
 std::int64_t areaOf(const xplEdges& part) {
   return std::int64_t{part.right - part.left} * (part.bottom - part.top);

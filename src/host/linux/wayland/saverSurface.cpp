@@ -82,10 +82,10 @@ void SaverSurface::draw(const PixelMemory& picture, std::span<const xplEdges> pa
   }
 }
 
-void SaverSurface::commit() {
+bool SaverSurface::commit() {
   static const wl_callback_listener listener{noteFrameWanted};
   if (!m_buffers || !m_buffers->hasChanges() || m_frameWanted || m_isClosed) {
-    return;
+    return false;
   }
   m_buffers->show(m_surface.get());
   m_frameWanted.reset(wl_surface_frame(m_surface.get()));
@@ -93,6 +93,7 @@ void SaverSurface::commit() {
   wl_surface_commit(m_surface.get());
   m_isWholeNew = false;
   m_former.reset();
+  return true;
 }
 
 int SaverSurface::Place::pictureX(double x) const {

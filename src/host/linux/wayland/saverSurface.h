@@ -39,8 +39,8 @@ class SaverSurface : private SurfaceRoleEvents {
   bool wantsFrame() const;
   // Takes over what it shows of these parts of the picture.
   void draw(const PixelMemory& picture, std::span<const xplEdges> parts);
-  // Shows what was drawn, if the compositor wants to see it already.
-  void commit();
+  // Shows what was drawn, if the compositor wants to see it already. True where it did.
+  bool commit();
   // True once after all of its part of the picture is needed again.
   bool takeContentLost() { return std::exchange(m_isContentLost, false); }
 

@@ -69,8 +69,16 @@ void WaylandLink::noteSight() {
   }
 }
 
+bool WaylandLink::canWaitForTick() const {
+  // Shorter than the time from one frame to the next: where the compositor needs longer it is listened to.
+  constexpr double soon = 0.03;  // seconds
+  return m_isErased && !m_window.wantsFrame() && m_lastShown.seconds() < soon;
+}
+
 void WaylandLink::flush() {
-  m_window.commit();
+  if (m_window.commit()) {
+    m_lastShown.restart();
+  }
   m_connection.flush();
 }
 

@@ -25,6 +25,8 @@ class WaylandLink : public DisplayLink {
   // False while the compositor has not wanted a frame for some time: the screens are off, or the window
   // hidden.
   bool isSeen() const override;
+  // So the saver wakes once for each frame, and not once more when the frame is on the screen.
+  bool canWaitForTick() const override;
   void flush() override;
 
  private:
@@ -39,6 +41,7 @@ class WaylandLink : public DisplayLink {
   MessagePump& m_pump;
   std::vector<std::unique_ptr<WaylandSeat>> m_seats;
   xplTimeCounter m_lastWanted;  // since the compositor wanted a frame last
+  xplTimeCounter m_lastShown;   // since a frame was given to the compositor
   bool m_wasSeen = true;
   bool m_isErased = false;
   bool m_isStopping = false;

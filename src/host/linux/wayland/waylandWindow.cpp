@@ -67,10 +67,12 @@ bool WaylandWindow::wantsFrame() const {
   return std::any_of(m_surfaces.begin(), m_surfaces.end(), [](const auto& s) { return s->wantsFrame(); });
 }
 
-void WaylandWindow::commit() {
+bool WaylandWindow::commit() {
+  bool isShown = false;
   for (const auto& surface : m_surfaces) {
-    surface->commit();
+    isShown |= surface->commit();
   }
+  return isShown;
 }
 
 void WaylandWindow::show() {

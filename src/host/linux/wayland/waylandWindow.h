@@ -39,8 +39,9 @@ class WaylandWindow : public xpliNativeWindow {
   void show();
   // True while a surface wants to show a frame.
   bool wantsFrame() const;
-  // Shows what was presented, where the compositor wants to see it already.
-  void commit();
+  // Shows what was presented, where the compositor wants to see it already. True where that is on a screen at
+  // least.
+  bool commit();
   // Acts on what was dispatched: outputs that came and went, surfaces that were closed.
   void follow();
   // True once after somebody has closed a window of the saver.
