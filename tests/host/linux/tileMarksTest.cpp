@@ -49,37 +49,6 @@ TEST(TileMarks, FollowTheTilesOfThePicture) {
   }
 }
 
-TEST(TileMarks, GoWithWhatCoversTheTile) {
-  TileMarks marks(96, 8, 0, 0);
-  marks.markAll();
-  marks.cover({32, 0, 64, 8});
-  EXPECT_EQ(takeAll(marks), (std::vector<Edges>{{0, 0, 32, 8}, {64, 0, 96, 8}}));
-}
-
-TEST(TileMarks, GoWithWhatCoversSomeRowsOfTheTile) {
-  TileMarks marks(32, 16, 0, 0);
-  marks.mark({0, 2, 32, 7});
-  marks.cover({0, 0, 32, 5});
-  EXPECT_EQ(takeAll(marks), (std::vector<Edges>{{0, 5, 32, 7}}));
-  marks.mark({0, 2, 32, 12});
-  marks.cover({0, 2, 32, 12});
-  EXPECT_TRUE(takeAll(marks).empty());
-}
-
-TEST(TileMarks, GoWithWhatCoversATileThatBeginsAboveTheBuffer) {
-  TileMarks marks(32, 8, 0, 4);
-  marks.markAll();
-  marks.cover({0, 0, 32, 4});
-  EXPECT_EQ(takeAll(marks), (std::vector<Edges>{{0, 4, 32, 8}}));
-}
-
-TEST(TileMarks, StayWhereATileIsCoveredInPart) {
-  TileMarks marks(96, 8, 0, 0);
-  marks.markAll();
-  marks.cover({31, 0, 64, 8});
-  EXPECT_EQ(takeAll(marks), (std::vector<Edges>{{0, 0, 32, 8}, {64, 0, 96, 8}}));
-}
-
 TEST(TileMarks, TwiceAreOneAndReachFromTheFirstRowToTheLast) {
   TileMarks marks(32, 8, 0, 0);
   marks.mark({0, 0, 5, 2});

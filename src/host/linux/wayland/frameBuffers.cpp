@@ -46,9 +46,10 @@ void FrameBuffers::copyPart(const PixelMemory& picture, const xplEdges& part) {
 }
 
 // It comes from the picture, and not from the buffer that is shown: most of it has just been drawn and is
-// near, while the other was read by the compositor since.
+// near, while the other was read by the compositor since. All of it is copied at once, after all that is to be
+// noted: what is read between two copies waits until the first of them has arrived in memory.
 void FrameBuffers::bringUpToDate(const PixelMemory& picture) {
-  m_drawing->outdated().takeAll([&](const xplEdges& tile) { copyPart(picture, tile); });
+  m_drawing->outdated().takeAll([&](const xplEdges& tiles) { copyPart(picture, tiles); });
 }
 
 bool FrameBuffers::draw(const PixelMemory& picture, std::span<const xplEdges> parts) {
@@ -65,14 +66,9 @@ bool FrameBuffers::draw(const PixelMemory& picture, std::span<const xplEdges> pa
     }
     const xplEdges here = {visible.left - m_place.left, visible.top - m_place.top,
                            visible.right - m_place.left, visible.bottom - m_place.top};
-    copyPart(picture, here);
     m_changed.add(here);
     for (const auto& buffer : m_buffers) {
-      if (buffer.get() == m_drawing) {
-        buffer->outdated().cover(here);
-      } else {
-        buffer->outdated().mark(here);
-      }
+      buffer->outdated().mark(here);
     }
   }
   bringUpToDate(picture);

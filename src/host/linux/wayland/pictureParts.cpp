@@ -3,15 +3,6 @@
 
 #include <algorithm>
 
-xplEdges commonPart(const xplEdges& one, const xplEdges& other) {
-  return {std::max(one.left, other.left), std::max(one.top, other.top), std::min(one.right, other.right),
-          std::min(one.bottom, other.bottom)};
-}
-
-bool isEmpty(const xplEdges& part) {
-  return part.right <= part.left || part.bottom <= part.top;
-}
-
 bool areSame(const xplEdges& one, const xplEdges& other) {
   return one.left == other.left && one.top == other.top && one.right == other.right &&
          one.bottom == other.bottom;

@@ -66,20 +66,6 @@ void TileMarks::mark(const xplEdges& part) {
   }
 }
 
-void TileMarks::cover(const xplEdges& part) {
-  for (int row = rowOf(part.top); m_marked > 0 && row <= rowOf(part.bottom - 1); ++row) {
-    const std::uint8_t rows = rowsIn(part, row);
-    for (int column = columnOf(part.left); column <= columnOf(part.right - 1); ++column) {
-      std::uint8_t& mark = m_marks[at(column, row)];
-      const xplEdges tile = edgesOf(column, row);
-      if (mark != 0 && part.left <= tile.left && part.right >= tile.right) {
-        mark = static_cast<std::uint8_t>(mark & ~rows);
-        m_marked -= mark == 0 ? 1 : 0;
-      }
-    }
-  }
-}
-
 void TileMarks::markAll() {
   mark({0, 0, m_width, m_height});
 }

@@ -19,8 +19,6 @@ class TileMarks {
   void mark(const xplEdges& part);
   void markAll();
 
-  // Takes the marks off the rows of tiles that the part covers as a whole.
-  void cover(const xplEdges& part);
   // Takes all marks off, and calls `each` for every tile that had one, with the part of it that holds them.
   template <class Each>
   void takeAll(const Each& each) {
