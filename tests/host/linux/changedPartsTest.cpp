@@ -37,15 +37,15 @@ TEST(ChangedParts, ThatTouchAreJoined) {
   EXPECT_EQ(listOf(changed), (std::vector<Edges>{{32, 3, 96, 10}}));
 }
 
-TEST(ChangedParts, AreJoinedWhereLessThanTwoHundredPixelsComeInBetween) {
+TEST(ChangedParts, AreJoinedWhereLessThanFourHundredPixelsComeInBetween) {
   ChangedParts changed(1000, 500);
-  changed.add({0, 0, 20, 10});
-  changed.add({39, 0, 59, 10});
-  EXPECT_EQ(listOf(changed), (std::vector<Edges>{{0, 0, 59, 10}}));
+  changed.add({0, 0, 20, 20});
+  changed.add({39, 0, 59, 20});
+  EXPECT_EQ(listOf(changed), (std::vector<Edges>{{0, 0, 59, 20}}));
   changed.clear();
-  changed.add({0, 0, 20, 10});
-  changed.add({40, 0, 60, 10});
-  EXPECT_EQ(listOf(changed), (std::vector<Edges>{{0, 0, 20, 10}, {40, 0, 60, 10}}));
+  changed.add({0, 0, 20, 20});
+  changed.add({40, 0, 60, 20});
+  EXPECT_EQ(listOf(changed), (std::vector<Edges>{{0, 0, 20, 20}, {40, 0, 60, 20}}));
 }
 
 TEST(ChangedParts, GoToTheNearer) {
