@@ -38,18 +38,12 @@ ShmBuffer* FrameBuffers::pick() {
   return nullptr;
 }
 
-void FrameBuffers::copyPart(const PixelMemory& picture, const xplEdges& part) {
-  const xplEdges there = commonPart({part.left + m_place.left, part.top + m_place.top,
-                                     part.right + m_place.left, part.bottom + m_place.top},
-                                    {0, 0, picture.width(), picture.height()});
-  copyPixels(picture, there, *m_drawing, there.left - m_place.left, there.top - m_place.top);
-}
-
 // It comes from the picture, and not from the buffer that is shown: most of it has just been drawn and is
-// near, while the other was read by the compositor since. All of it is copied at once, after all that is to be
-// noted: what is read between two copies waits until the first of them has arrived in memory.
+// near, while the other was read by the compositor since. All of it is copied at once, after all that is to
+// be noted: what is read between two copies waits until the first of them has arrived in memory.
 void FrameBuffers::bringUpToDate(const PixelMemory& picture) {
-  m_drawing->outdated().takeAll([&](const xplEdges& tiles) { copyPart(picture, tiles); });
+  const PartCopy all(picture, *m_drawing, m_place.left, m_place.top);
+  m_drawing->outdated().takeAll([&](const xplEdges& tile) { all.copy(tile); });
 }
 
 bool FrameBuffers::draw(const PixelMemory& picture, std::span<const xplEdges> parts) {

@@ -31,8 +31,6 @@ class FrameBuffers {
 
  private:
   ShmBuffer* pick();
-  // Copies a part, in the buffer's coordinates, as far as it lies on the picture.
-  void copyPart(const PixelMemory& picture, const xplEdges& part);
   // Copies what the buffer has missed.
   void bringUpToDate(const PixelMemory& picture);
   void tellChanges(wl_surface* surface) const;
