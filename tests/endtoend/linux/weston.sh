@@ -18,6 +18,9 @@ open_before=$(find "/proc/$saver/fd" | wc -l)
 for _ in 1 2 3 4 5; do screen_advances; done
 same "no descriptor is left open" "$open_before" "$(find "/proc/$saver/fd" | wc -l)"
 second_gives_way "$WAYLAND_DISPLAY" screen_advances
+woken=$(wakes)
+sleep 2 # the frames of this time are what is counted
+at_most "one wake for each frame, more or less, in two seconds" 75 $(($(wakes) - woken))
 end_saver
 same "SIGTERM ends it" 0 "$code"
 at_most "within 100 ms" 100 "$milliseconds"

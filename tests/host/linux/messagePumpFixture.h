@@ -27,6 +27,7 @@ class QuietDisplay : public DisplayLink {
   }
   bool mayPaint() override { return isShown && !isHidden; }
   bool isSeen() const override { return !isHidden; }
+  bool canWaitForTick() const override { return isPatient; }
   void flush() override { ++flushes; }
   // The display has something to say.
   void wake() { ::eventfd_write(m_wake.get(), 1); }
@@ -34,6 +35,7 @@ class QuietDisplay : public DisplayLink {
   std::function<void()> onCollect;
   bool isShown = true;
   bool isHidden = false;
+  bool isPatient = false;
   int flushes = 0;
 
  private:

@@ -133,4 +133,46 @@ TEST_F(MessagePumpTest, ATimerNeedsAnId) {
   EXPECT_TRUE(windowTimers().all().empty());
 }
 
+// It speaks at the first look.
+TEST_F(MessagePumpTest, WhatAPatientDisplaySaysIsHeardWithTheNextTick) {
+  display.isPatient = true;
+  windowTimers().start(1, 30);
+  int looks = 0;
+  display.onCollect = [&] {
+    if (++looks == 1) {
+      display.wake();
+    }
+  };
+  runUntil(WM_TIMER);
+  EXPECT_EQ(looks, 2);
+}
+
+TEST_F(MessagePumpTest, APatientDisplayIsHeardWithoutATickToo) {
+  display.isPatient = true;
+  int looks = 0;
+  display.onCollect = [&] {
+    if (++looks == 1) {
+      display.wake();
+    } else {
+      pump.post(WM_CLOSE);
+    }
+  };
+  runUntil(WM_CLOSE);
+  EXPECT_EQ(looks, 2);
+}
+
+TEST_F(MessagePumpTest, AnImpatientDisplayIsHeardAtOnce) {
+  windowTimers().start(1, 5000);
+  int looks = 0;
+  display.onCollect = [&] {
+    if (++looks == 1) {
+      display.wake();
+    } else {
+      pump.post(WM_CLOSE);
+    }
+  };
+  runUntil(WM_CLOSE);
+  EXPECT_EQ(messages(), (std::vector<UINT>{WM_CLOSE}));
+}
+
 }  // namespace
