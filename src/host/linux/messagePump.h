@@ -28,7 +28,7 @@ class DisplayLink {
   // as long as this is.
   virtual bool isSeen() const { return true; }
   // True where nothing else is awaited from the display than that it is ready for another frame, which can
-  // wait for the next tick of a timer. What the user does then waits as well: for a frame's time, at most.
+  // wait for the next tick of a timer. What the user does then waits as well, for 50 milliseconds at most.
   virtual bool canWaitForTick() const { return false; }
   // Sends what is still on its way to the display.
   virtual void flush() = 0;

@@ -56,4 +56,17 @@ TEST(TileMarks, TwiceAreOneAndReachFromTheFirstRowToTheLast) {
   EXPECT_EQ(takeAll(marks), (std::vector<Edges>{{0, 0, 32, 7}}));
 }
 
+TEST(TileMarks, AreFoundAmongManyTiles) {
+  // 100 columns, so that a row of tiles is no multiple of any word's bits.
+  TileMarks marks(3200, 80, 0, 0);
+  const std::vector<Edges> parts{{0, 0, 32, 8},      {2016, 0, 2048, 8},  {2048, 0, 2080, 8},
+                                 {3168, 0, 3200, 8}, {896, 48, 928, 56},  {928, 48, 960, 56},
+                                 {0, 72, 32, 80},    {3168, 72, 3200, 80}};
+  for (const Edges& part : parts) {
+    marks.mark({part[0], part[1], part[2], part[3]});
+  }
+  EXPECT_EQ(takeAll(marks), parts);
+  EXPECT_TRUE(takeAll(marks).empty());
+}
+
 }  // namespace

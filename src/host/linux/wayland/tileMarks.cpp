@@ -24,8 +24,10 @@ TileMarks::TileMarks(int width, int height, int left, int top)
       m_offsetX(withinTile(left, tileWidth)),
       m_offsetY(withinTile(top, tileHeight)),
       m_columns((m_offsetX + width - 1) / tileWidth + 1),
-      m_rows((m_offsetY + height - 1) / tileHeight + 1),
-      m_marks(static_cast<std::size_t>(m_columns) * static_cast<std::size_t>(m_rows), 0) {}
+      m_rows(static_cast<std::size_t>(m_columns) *
+                 static_cast<std::size_t>((m_offsetY + height - 1) / tileHeight + 1),
+             0),
+      m_marked((m_rows.size() - 1) / bitsOfWord + 1, 0) {}
 
 int TileMarks::columnOf(int x) const {
   return (m_offsetX + x) / tileWidth;
@@ -59,9 +61,10 @@ void TileMarks::mark(const xplEdges& part) {
   for (int row = rowOf(part.top); row <= rowOf(part.bottom - 1); ++row) {
     const std::uint8_t rows = rowsIn(part, row);
     for (int column = columnOf(part.left); column <= columnOf(part.right - 1); ++column) {
-      std::uint8_t& mark = m_marks[at(column, row)];
-      m_marked += mark == 0 ? 1 : 0;
-      mark |= rows;
+      const std::size_t tile = static_cast<std::size_t>(row) * static_cast<std::size_t>(m_columns) +
+                               static_cast<std::size_t>(column);
+      m_rows[tile] |= rows;
+      m_marked[tile / bitsOfWord] |= std::uint64_t{1} << (tile % bitsOfWord);
     }
   }
 }

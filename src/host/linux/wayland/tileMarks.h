@@ -1,6 +1,7 @@
 // Marks on rows of the tiles of a picture's part: which of them are out of date in a buffer.
 #pragma once
 
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <utility>
@@ -22,22 +23,19 @@ class TileMarks {
   // Takes all marks off, and calls `each` for every tile that had one, with the part of it that holds them.
   template <class Each>
   void takeAll(const Each& each) {
-    for (int row = 0; m_marked > 0 && row < m_rows; ++row) {
-      for (int column = 0; column < m_columns; ++column) {
-        const std::uint8_t rows = std::exchange(m_marks[at(column, row)], std::uint8_t{0});
-        if (rows != 0) {
-          --m_marked;
-          each(edgesOfRows(column, row, rows));
-        }
+    for (std::size_t word = 0; word < m_marked.size(); ++word) {
+      for (std::uint64_t left = std::exchange(m_marked[word], 0); left != 0; left &= left - 1) {
+        const std::size_t tile = word * bitsOfWord + static_cast<std::size_t>(std::countr_zero(left));
+        const auto columns = static_cast<std::size_t>(m_columns);
+        each(edgesOfRows(static_cast<int>(tile % columns), static_cast<int>(tile / columns),
+                         std::exchange(m_rows[tile], std::uint8_t{0})));
       }
     }
   }
 
  private:
-  std::size_t at(int column, int row) const {
-    return static_cast<std::size_t>(row) * static_cast<std::size_t>(m_columns) +
-           static_cast<std::size_t>(column);
-  }
+  static constexpr std::size_t bitsOfWord = 64;
+
   int columnOf(int x) const;
   int rowOf(int y) const;
   xplEdges edgesOf(int column, int row) const;
@@ -51,7 +49,6 @@ class TileMarks {
   int m_offsetX;  // of the upper left corner in its tile, in [0, TileChanges::tileWidth)
   int m_offsetY;
   int m_columns;
-  int m_rows;
-  std::vector<std::uint8_t> m_marks;  // of each tile: its marked rows, as TileChanges::rowsOf() has them
-  std::size_t m_marked = 0;           // tiles that have a mark
+  std::vector<std::uint8_t> m_rows;     // of each tile: its marked rows, as TileChanges::rowsOf() has them
+  std::vector<std::uint64_t> m_marked;  // a bit for each tile that has a mark, so that few are looked at
 };
