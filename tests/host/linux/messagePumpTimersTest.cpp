@@ -133,44 +133,36 @@ TEST_F(MessagePumpTest, ATimerNeedsAnId) {
   EXPECT_TRUE(windowTimers().all().empty());
 }
 
-// It speaks at the first look.
-TEST_F(MessagePumpTest, WhatAPatientDisplaySaysIsHeardWithTheNextTick) {
+// The display speaks after the first look; when it is heard the run is to end.
+class DisplayThatSpeaks : public MessagePumpTest {
+ protected:
+  DisplayThatSpeaks() {
+    display.onCollect = [this, hasSpoken = false]() mutable {
+      if (hasSpoken) {
+        pump.post(WM_CLOSE);
+      } else {
+        display.wake();
+        hasSpoken = true;
+      }
+    };
+  }
+};
+
+TEST_F(DisplayThatSpeaks, IsHeardWithTheNextTickWhereItIsPatient) {
   display.isPatient = true;
   windowTimers().start(1, 30);
-  int looks = 0;
-  display.onCollect = [&] {
-    if (++looks == 1) {
-      display.wake();
-    }
-  };
-  runUntil(WM_TIMER);
-  EXPECT_EQ(looks, 2);
-}
-
-TEST_F(MessagePumpTest, APatientDisplayIsHeardWithoutATickToo) {
-  display.isPatient = true;
-  int looks = 0;
-  display.onCollect = [&] {
-    if (++looks == 1) {
-      display.wake();
-    } else {
-      pump.post(WM_CLOSE);
-    }
-  };
   runUntil(WM_CLOSE);
-  EXPECT_EQ(looks, 2);
+  EXPECT_EQ(messages(), (std::vector<UINT>{WM_TIMER, WM_CLOSE}));
 }
 
-TEST_F(MessagePumpTest, AnImpatientDisplayIsHeardAtOnce) {
+TEST_F(DisplayThatSpeaks, IsHeardWithoutATickTooWhereItIsPatient) {
+  display.isPatient = true;
+  runUntil(WM_CLOSE);
+  EXPECT_EQ(messages(), (std::vector<UINT>{WM_CLOSE}));
+}
+
+TEST_F(DisplayThatSpeaks, IsHeardAtOnceWhereItIsNot) {
   windowTimers().start(1, 5000);
-  int looks = 0;
-  display.onCollect = [&] {
-    if (++looks == 1) {
-      display.wake();
-    } else {
-      pump.post(WM_CLOSE);
-    }
-  };
   runUntil(WM_CLOSE);
   EXPECT_EQ(messages(), (std::vector<UINT>{WM_CLOSE}));
 }
